@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "backend/corvane/Application.h"
+#include "backend/corvane/Session.h"
+
+namespace mindloft::Corvane {
+
+class ConfigDocument;
+class User;
+
+/// The login connection of the process.
+class Connection {
+ public:
+  Connection(std::shared_ptr<Session> session, DirectoryProvider provider);
+
+  const std::string& WebAddress() const { return target_.webAddress; }
+  void SetWebAddress(std::string address) { target_.webAddress = std::move(address); }
+  bool ProxyEnabled() const { return proxyEnabled_; }
+  void SetProxyEnabled(bool enabled) { proxyEnabled_ = enabled; }
+  void SetProxyIP(std::string ip) { proxyIP_ = std::move(ip); }
+  void SetProxyPort(std::string port) { proxyPort_ = std::move(port); }
+  void SetProxyUser(std::string user) { proxyUser_ = std::move(user); }
+  void SetProxyPassword(std::string password) { proxyPassword_ = std::move(password); }
+  /// Seconds.
+  void SetTimeout(std::int32_t seconds) { timeout_ = seconds; }
+  std::int32_t Timeout() const { return timeout_; }
+  const std::string& ConfigurationServer() const { return target_.configurationServer; }
+  void SetConfigurationServer(std::string server) { target_.configurationServer = std::move(server); }
+  void SetConfigurationPort(std::int32_t port) { target_.configurationPort = port; }
+  /// 0 unset, 1 local network, 2 web.
+  int ConnectMode() const { return target_.connectMode; }
+  void SetConnectMode(int mode) { target_.connectMode = mode; }
+  /// The logged-in user; nothing when nobody is logged in.
+  std::shared_ptr<User> CurrentUser();
+  /// The logged-in user's configuration document.
+  std::shared_ptr<ConfigDocument> UserConfig();
+  /// False for a wrong name or password; throws what else went wrong (no directory, server not reached,
+  /// delayed). The optional arguments belong to the contract and have no meaning for the embedded directory.
+  bool Login(const std::string& userName, const std::string& password,
+             const std::optional<std::string>& domain = {}, const std::optional<std::string>& language = {});
+  void Logout();
+
+  bool IsLoggedIn() const { return session_->id != 0; }
+  const ConnectionTarget& Target() const { return target_; }
+
+ private:
+  std::shared_ptr<Session> session_;
+  DirectoryProvider provider_;
+  ConnectionTarget target_;
+  bool proxyEnabled_ = false;
+  std::string proxyIP_, proxyPort_, proxyUser_, proxyPassword_;
+  std::int32_t timeout_ = 0;
+};
+
+}  // namespace mindloft::Corvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+
+#include "backend/corvane/Session.h"
+
+namespace mindloft::Corvane {
+
+class KDomains;
+class Log;
+class Roles;
+class Styles;
+class Users;
+
+/// The server's directory.
+class Server {
+ public:
+  explicit Server(std::shared_ptr<Session> session) : session_(std::move(session)) {}
+
+  /// The knowledge domains as the logged-in user sees them.
+  std::shared_ptr<Corvane::KDomains> KDomains();
+  std::shared_ptr<Corvane::Users> Users();
+  std::shared_ptr<Corvane::Roles> Roles();
+  std::shared_ptr<Corvane::Log> Log();
+  std::shared_ptr<Corvane::Styles> Styles();
+
+ private:
+  std::shared_ptr<Session> session_;
+};
+
+}  // namespace mindloft::Corvane

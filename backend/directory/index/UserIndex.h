@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "backend/directory/Query.h"
+#include "backend/directory/sqlite/Database.h"
+
+namespace mindloft {
+
+/// The listed texts of one user.
+struct UserTexts {
+  std::string_view name, fullName, description;
+};
+
+/// The positions of all users in every offered order, and the search for a text in them, both in tables of
+/// the same file that change in the same transaction as the users.
+///
+/// Changes must run inside the caller's write transaction. Reads see the file's present state, also after
+/// changes of another process; what they remember is dropped when the file has changed.
+class UserIndex {
+ public:
+  explicit UserIndex(sqlite::Database& database);
+  ~UserIndex();
+
+  static void CreateTables(sqlite::Database& database);
+
+  void Insert(ObjectId id, const UserTexts& texts);
+  void Change(ObjectId id, const UserTexts& before, const UserTexts& after);
+  void Remove(ObjectId id, const UserTexts& texts);
+  /// Builds everything anew from the user table.
+  void Rebuild();
+  /// What is wrong, in words; empty when the index agrees with the user table.
+  std::vector<std::string> Check();
+
+  /// A query on a collection of users. Scoped collections are read from the membership tables.
+  std::int64_t Count(const Query& query);
+  std::vector<ObjectId> Page(const Query& query, std::int64_t first, std::int64_t count);
+  std::int64_t FindPrefix(const Query& query, std::string_view prefix, std::int64_t from);
+  std::int64_t PositionOf(const Query& query, ObjectId user);
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace mindloft

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include <memory>
+#include <vector>
+
+#include "backend/tessaline/LanguageFile.h"
+#include "backend/tessaline/Registry.h"
+
+class wxWindow;
+
+namespace mindloft::Tessaline {
+
+/// Client settings by their index.
+enum class Setting : int {
+  ConnectMode = 0,
+  WebServerURL = 7,
+  ProxyEnabled = 8,
+  ProxyIP = 9,
+  ProxyPort = 10,
+  ProxyUser = 11,
+  ProxyPassword = 12,
+  WebTimeout = 13,
+  CurrentLanguage = 14,
+  AutoLoginEnabled = 16,
+  LoginUserName = 17,
+  LoginPassword = 18,
+  SecureChannel = 23,
+  ConfigurationServer = 24,
+  ConfigurationPort = 25,
+};
+
+/// Language texts and client settings.
+class Resource {
+ public:
+  /// Takes the language of setting 14, English when that is not set or has no file.
+  explicit Resource(std::shared_ptr<Registry> registry);
+
+  /// The text of that number in the current language; "#59300" when there is none.
+  wxString GetString(int number) const;
+  /// The text with "%1", "%2", ... replaced by the parameters ("%%" is a per cent sign).
+  wxString GetFormatString(int number, const std::vector<wxString>& parameters) const;
+  /// A value of the language configuration: "CurrentLangue" (the current language's code), "Set_Display" and
+  /// "Set_Value" (names and codes of all languages, joined by ";"), a code (the name of the language's
+  /// registry file).
+  wxString GetLanguageValue(const wxString& key) const;
+  /// A client setting; empty when not set. They lie in the current user's registry under
+  /// "Software\Ordwell\Mindloft\Settings", each named after its setting. `machineDefault` asks for the value
+  /// of the same name in the machine's hive where the user has none.
+  wxString GetSetting(Setting index, bool machineDefault = false) const;
+  void SetSetting(Setting index, const wxString& text);
+  /// Sets every caption of the form in the current language: the form's title, and for each named window the
+  /// caption that the language file gives for the form's name and the window's name (and its tool tip, where
+  /// there is one).
+  void LoadInfoOnForm(wxWindow& form) const;
+
+  /// The code of the current language (1033, ...).
+  int CurrentLanguage() const;
+  /// Switches the language of this process; the setting is not changed. False, and no change, when there is
+  /// none of that code or its file is damaged.
+  bool SwitchLanguage(int code);
+  bool IsRightToLeft() const;
+  /// Codes of all languages that there are, the program's own order.
+  std::vector<int> Languages() const;
+  /// The language's name in itself.
+  wxString LanguageName(int code) const;
+  const LanguageFile& Language() const { return *language_; }
+
+ private:
+  std::shared_ptr<Registry> registry_;
+  std::shared_ptr<const LanguageFile> language_;
+};
+
+}  // namespace mindloft::Tessaline

@@ -1,0 +1,15 @@
+# Writes OUTPUT, a C++ source that registers each of FILES (joined by "|") as "PREFIX/file name".
+string(REPLACE "|" ";" FILES "${FILES}")
+set(text "#include \"platform/EmbeddedFile.h\"\n\nnamespace {\n")
+set(entries "")
+set(index 0)
+foreach(file IN LISTS FILES)
+  get_filename_component(name "${file}" NAME)
+  file(READ "${file}" hex HEX)
+  string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${hex}")
+  string(APPEND text "const unsigned char file${index}[] = {${bytes}0};\n")
+  string(APPEND entries
+         "const mindloft::platform::EmbeddedFileEntry entry${index}(\"${PREFIX}/${name}\", file${index}, sizeof file${index} - 1);\n")
+  math(EXPR index "${index} + 1")
+endforeach()
+file(WRITE "${OUTPUT}" "${text}${entries}}  // namespace\n")

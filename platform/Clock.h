@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+namespace mindloft::platform {
+
+/// Milliseconds since 1970-01-01 00:00 UTC.
+std::int64_t NowMilliseconds();
+
+/// Milliseconds of a clock that never goes back.
+std::int64_t MonotonicMilliseconds();
+
+/// Lets both clocks stand still at times that the test sets, until it goes.
+class FakeClock {
+ public:
+  explicit FakeClock(std::int64_t milliseconds);
+  ~FakeClock();
+  FakeClock(const FakeClock&) = delete;
+  FakeClock& operator=(const FakeClock&) = delete;
+  void Set(std::int64_t milliseconds);
+  void Advance(std::int64_t milliseconds);
+};
+
+}  // namespace mindloft::platform
