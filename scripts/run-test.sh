@@ -22,7 +22,7 @@ esac
 export LANG=C.UTF-8 LC_ALL=C.UTF-8 GTK_MODULES= NO_AT_BRIDGE=1 GDK_BACKEND=x11
 export LSAN_OPTIONS="suppressions=$here/../tests/support/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS=print_stacktrace=1
-if [ -n "$display" ]; then
+if [ -n "$display" ] && [ -z "${MINDLOFT_SHARED_DISPLAY-}" ]; then
   exec "$here/with-display.sh" "${command[@]}"
 fi
 exec "${command[@]}"

@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Makes mindloft.msi of a Windows build: make-msi.sh BUILD-FOLDER
+set -euo pipefail
+here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
+build=$1
+version=$(sed -n 's/^project(mindloft VERSION \([0-9.]*\).*/\1/p' "$here/../CMakeLists.txt")
+
+# A component per language file; its GUID is made of the file's name, so that it stays the same from version to version.
+languages=
+components=
+for file in "$build"/bin/resources/languages/*; do
+  name=$(basename "$file")
+  id=Language_$(tr -c 'A-Za-z0-9\n' _ <<<"$name")
+  hash=$(printf 'mindloft %s' "$name" | md5sum | cut -c1-32 | tr a-f A-F)
+  guid=${hash:0:8}-${hash:8:4}-4${hash:13:3}-8${hash:17:3}-${hash:20:12}
+  languages+="              <Component Id=\"$id\" Guid=\"$guid\"><File Id=\"File_$id\" Source=\"$file\" KeyPath=\"yes\"/></Component>"$'\n'
+  components+="      <ComponentRef Id=\"$id\"/>"$'\n'
+done
+
+awk -v languages="$languages" -v components="$components" '
+  /@LANGUAGES@/ { printf "%s", languages; next }
+  /@COMPONENTS@/ { printf "%s", components; next }
+  { print }' "$here/mindloft.wxs" >"$build/mindloft.wxs"
+wixl -a x64 -D VERSION="$version" -D BIN="$build/bin" -D SOURCE="$here/.." -o "$build/mindloft.msi" "$build/mindloft.wxs"

@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Checks the layout of all sources and runs the static checks: lint.sh [--format-only]
+set -euo pipefail
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
+scripts/packages.sh lint
+git ls-files -z -- '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werror
+[ "${1-}" != --format-only ] || exit 0
+scripts/build.sh linux-asan
+# The generated sources of embedded files are data.
+git ls-files -z -- '*.cpp' ':!:*/windows/*' ':!:bench/*' |
+  xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/linux-asan --quiet --warnings-as-errors='*' 2>&1 |
+  { grep -vE '^[0-9]+ warnings? generated|^$' || true; }
+exit "${PIPESTATUS[0]}"

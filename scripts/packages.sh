@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Installs what is missing of the Debian packages that a task needs: packages.sh build|test|run|windows|lint ...
+set -euo pipefail
+
+build="cmake ninja-build g++ pkg-config ccache libwxgtk3.2-dev libsqlite3-dev libutf8proc-dev libpugixml-dev
+  libgcrypt20-dev libspdlog-dev libfmt-dev googletest libgtest-dev libgmock-dev"
+# Fonts for the languages and the sample's names; a display, a window manager and a camera for machines without one.
+screen="xvfb openbox x11-utils xdotool imagemagick fonts-dejavu-core fonts-droid-fallback fonts-noto-core"
+test="$build $screen procps"
+run="$build $screen"
+windows="$test g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libgcrypt-mingw-w64-dev wine wine64 tcl dpkg-dev
+  debian-archive-keyring ca-certificates wixl"
+lint="$build clang-format clang-tidy git"
+
+wanted=
+for task in "$@"; do
+  case $task in
+  build | test | run | windows | lint) wanted+=" ${!task}" ;;
+  *)
+    echo "packages.sh: unknown task '$task'" >&2
+    exit 2
+    ;;
+  esac
+done
+
+missing=()
+for package in $(tr ' ' '\n' <<<"$wanted" | sort -u); do
+  dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" != 0 ]; then
+  command -v sudo >/dev/null || {
+    echo "These packages are missing and need root or sudo to be installed: ${missing[*]}" >&2
+    exit 1
+  }
+  as_root=(sudo)
+fi
+echo "installing: ${missing[*]}" >&2
+"${as_root[@]}" apt-get -qq update
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
