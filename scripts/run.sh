@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
 scripts/packages.sh run
-scripts/build.sh linux --target mindloft-console mindloft-directory
+scripts/build.sh linux --target mindloft-console mindloft-directory resources
 
 # The sample and the console's settings lie below build/, so that the user's own stay as they are.
 home=$PWD/build/sample
