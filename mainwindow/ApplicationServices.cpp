@@ -1,0 +1,10 @@
+#include "mainwindow/ApplicationServices.h"
+
+namespace mindloft {
+
+ApplicationServices& GetApplicationServices() {
+  static ApplicationServices services;
+  return services;
+}
+
+}  // namespace mindloft

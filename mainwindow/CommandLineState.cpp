@@ -1,0 +1,10 @@
+#include "mainwindow/CommandLineState.h"
+
+namespace mindloft {
+
+wxString& SavedCommandLine() {
+  static wxString commandLine;
+  return commandLine;
+}
+
+}  // namespace mindloft
