@@ -1,0 +1,17 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include <filesystem>
+
+namespace mindloft {
+
+/// What the login dialog starts with, and keeps when it has to be opened again for another reading direction.
+struct LoginFields {
+  wxString title;
+  wxString userName;
+  wxString server;
+  std::filesystem::path directoryFile;
+};
+
+}  // namespace mindloft
