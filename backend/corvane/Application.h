@@ -1,30 +1,13 @@
 #pragma once
 
-#include <filesystem>
-#include <functional>
 #include <memory>
 
-#include "backend/directory/Directory.h"
+#include "backend/corvane/DirectoryProvider.h"
 
 namespace mindloft::Corvane {
 
 class Connection;
 class Server;
-
-/// Where a connection leads: what the seam to a directory needs to know.
-struct ConnectionTarget {
-  int connectMode = 0;              ///< 0 unset, 1 local network, 2 web
-  std::string configurationServer;  ///< mode 1
-  std::int32_t configurationPort = 0;
-  std::string webAddress;  ///< mode 2
-};
-
-/// Opens the directory that a target means; throws ServerUnreachable when there is no way to it.
-using DirectoryProvider = std::function<std::shared_ptr<Directory>(const ConnectionTarget&)>;
-
-/// The provider that knows the embedded directory: mode 1 with an empty server or "(local)" (any case) opens
-/// `file`; every other target is ServerUnreachable.
-DirectoryProvider EmbeddedDirectoryProvider(std::filesystem::path file);
 
 /// Root object; one per process, created at start.
 class Application {

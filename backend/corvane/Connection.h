@@ -1,10 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 
-#include "backend/corvane/Application.h"
+#include "backend/corvane/DirectoryProvider.h"
 #include "backend/corvane/Session.h"
 
 namespace mindloft::Corvane {
@@ -15,7 +16,11 @@ class User;
 /// The login connection of the process.
 class Connection {
  public:
-  Connection(std::shared_ptr<Session> session, DirectoryProvider provider);
+  Connection(std::shared_ptr<CurrentLogin> login, DirectoryProvider provider);
+  /// Logs out.
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
 
   const std::string& WebAddress() const { return target_.webAddress; }
   void SetWebAddress(std::string address) { target_.webAddress = std::move(address); }
@@ -38,19 +43,23 @@ class Connection {
   std::shared_ptr<User> CurrentUser();
   /// The logged-in user's configuration document.
   std::shared_ptr<ConfigDocument> UserConfig();
-  /// False for a wrong name or password; throws what else went wrong (no directory, server not reached,
-  /// delayed). The optional arguments belong to the contract and have no meaning for the embedded directory.
+  /// Ends an earlier login, then opens the target's directory (one that failed logins have opened stays open)
+  /// and logs in. False for a wrong name or password; throws what else went wrong (no directory, server not
+  /// reached, delayed). The optional arguments belong to the contract and have no meaning for the embedded
+  /// directory.
   bool Login(const std::string& userName, const std::string& password,
              const std::optional<std::string>& domain = {}, const std::optional<std::string>& language = {});
+  /// Objects that this login has given out are refused from now on. Nothing happens when nobody is logged in.
   void Logout();
 
-  bool IsLoggedIn() const { return session_->id != 0; }
+  bool IsLoggedIn() const { return login_->session->id != 0; }
   const ConnectionTarget& Target() const { return target_; }
 
  private:
-  std::shared_ptr<Session> session_;
+  std::shared_ptr<CurrentLogin> login_;
   DirectoryProvider provider_;
-  ConnectionTarget target_;
+  ConnectionTarget target_, directoryTarget_;
+  std::shared_ptr<Directory> directory_;
   bool proxyEnabled_ = false;
   std::string proxyIP_, proxyPort_, proxyUser_, proxyPassword_;
   std::int32_t timeout_ = 0;

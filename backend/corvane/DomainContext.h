@@ -1,10 +1,14 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
-#include "backend/corvane/KDomain.h"
+#include "backend/corvane/Session.h"
 
 namespace mindloft::Corvane {
+
+class KDomain;
 
 /// One knowledge domain as seen by the logged-in user, with that user's domain privileges.
 class DomainContext {
@@ -22,7 +26,7 @@ class DomainContext {
  private:
   std::shared_ptr<Session> session_;
   std::shared_ptr<Corvane::KDomain> domain_;
-  mutable std::int64_t privileges_ = -1;
+  mutable std::optional<std::uint32_t> privileges_;
   std::int32_t nodeId_ = 0;
 };
 

@@ -2,15 +2,13 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
-#include "backend/corvane/DGroups.h"
-#include "backend/corvane/User.h"
-#include "backend/corvane/View.h"
+#include "backend/corvane/Session.h"
 
 namespace mindloft::Corvane {
 
-class DomainContext;
+class DGroups;
+class Users;
 
 /// One knowledge domain, stored or new.
 class KDomain {
@@ -24,6 +22,7 @@ class KDomain {
   const std::string& Description() const { return edited_.description; }
   void SetDescription(std::string text) { edited_.description = std::move(text); }
   std::string StyleId() const;
+  /// Empty: none. TypeMismatch when it is no identifier.
   void SetStyleId(const std::string& id);
   bool Disabled() const { return edited_.disabled; }
   void SetDisabled(bool disabled) { edited_.disabled = disabled; }
@@ -43,24 +42,6 @@ class KDomain {
   std::shared_ptr<Session> session_;
   DomainRecord stored_, edited_;
   DomainCopy copy_;
-};
-
-/// The knowledge domains of the server. `Item` gives the domain as the logged-in user sees it.
-class KDomains {
- public:
-  explicit KDomains(std::shared_ptr<Session> session) : session_(std::move(session)) {}
-  /// A new domain, stored by its first Update.
-  std::shared_ptr<KDomain> Add() const;
-  /// The key is the domain's identifier; nothing when there is none.
-  std::shared_ptr<DomainContext> Item(const std::string& key) const;
-  std::int64_t Count() const;
-  DomainView View() const;
-  /// A context for a record that a view returned.
-  std::shared_ptr<DomainContext> Context(const DomainRecord& record) const;
-  void Delete(const ObjectVersion& domain, const Progress& progress = {}) const;
-
- private:
-  std::shared_ptr<Session> session_;
 };
 
 }  // namespace mindloft::Corvane

@@ -3,11 +3,13 @@
 #include <memory>
 #include <string>
 
-#include "backend/corvane/User.h"
 #include "backend/corvane/View.h"
 
 namespace mindloft::Corvane {
 
+class Users;
+
+/// A role of the installation. Which roles there are is fixed; their members change.
 class Role {
  public:
   Role(std::shared_ptr<Session> session, RoleRecord stored);
@@ -27,18 +29,6 @@ class Role {
  private:
   std::shared_ptr<Session> session_;
   RoleRecord stored_;
-};
-
-class Roles {
- public:
-  explicit Roles(std::shared_ptr<Session> session) : session_(std::move(session)) {}
-  /// Nothing when there is none.
-  std::shared_ptr<Role> Item(const std::string& id) const;
-  std::int64_t Count() const;
-  RoleView View() const;
-
- private:
-  std::shared_ptr<Session> session_;
 };
 
 }  // namespace mindloft::Corvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "backend/corvane/Session.h"
 
@@ -12,10 +13,10 @@ class Roles;
 class Styles;
 class Users;
 
-/// The server's directory.
+/// The server's directory. What it returns belongs to the login of that moment.
 class Server {
  public:
-  explicit Server(std::shared_ptr<Session> session) : session_(std::move(session)) {}
+  explicit Server(std::shared_ptr<CurrentLogin> login) : login_(std::move(login)) {}
 
   /// The knowledge domains as the logged-in user sees them.
   std::shared_ptr<Corvane::KDomains> KDomains();
@@ -25,7 +26,7 @@ class Server {
   std::shared_ptr<Corvane::Styles> Styles();
 
  private:
-  std::shared_ptr<Session> session_;
+  std::shared_ptr<CurrentLogin> login_;
 };
 
 }  // namespace mindloft::Corvane

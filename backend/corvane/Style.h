@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "backend/corvane/View.h"
+#include "backend/corvane/Session.h"
 
 namespace mindloft::Corvane {
 
@@ -18,33 +18,12 @@ class Style {
   void SetDefinition(std::string text) { edited_.definition = std::move(text); }
   bool IsNew() const { return stored_.id == 0; }
   void Update();
+  void CancelEdit(bool cancel);
+  const StyleRecord& Stored() const { return stored_; }
 
  private:
   std::shared_ptr<Session> session_;
   StyleRecord stored_, edited_;
-};
-
-class Styles {
- public:
-  explicit Styles(std::shared_ptr<Session> session) : session_(std::move(session)) {}
-  std::shared_ptr<Style> Item(const std::string& id) const;
-  std::int64_t Count() const;
-  StyleView View() const;
-  std::shared_ptr<Style> Add() const;
-  void Delete(const ObjectVersion& style) const;
-
- private:
-  std::shared_ptr<Session> session_;
-};
-
-/// The server's log of changes.
-class Log {
- public:
-  explicit Log(std::shared_ptr<Session> session) : session_(std::move(session)) {}
-  JournalView View() const;
-
- private:
-  std::shared_ptr<Session> session_;
 };
 
 }  // namespace mindloft::Corvane

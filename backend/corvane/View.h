@@ -16,8 +16,7 @@ struct ViewOptions {
 };
 
 /// A window on one collection, for lists of any length: rows are read by position, a page at a time, as
-/// records. `Page` is overloaded by record: UserRecord, RoleRecord, DomainRecord, GroupRecord, StyleRecord,
-/// JournalRecord.
+/// records: UserRecord, RoleRecord, DomainRecord, GroupRecord, StyleRecord or JournalRecord.
 template <typename Record>
 class View {
  public:

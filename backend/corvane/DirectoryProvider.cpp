@@ -1,0 +1,26 @@
+#include "backend/corvane/DirectoryProvider.h"
+
+#include <utility>
+
+#include "backend/corvane/LocalDirectory.h"
+#include "backend/directory/SqliteDirectory.h"
+#include "backend/errors/Error.h"
+
+namespace mindloft::Corvane {
+namespace {
+
+constexpr int kLocalNetwork = 1;
+
+}  // namespace
+
+DirectoryProvider EmbeddedDirectoryProvider(std::filesystem::path file) {
+  return [file = std::move(file)](const ConnectionTarget& target) -> std::shared_ptr<Directory> {
+    if (target.connectMode == kLocalNetwork && IsLocalServer(target.configurationServer)) {
+      return SqliteDirectory::Open(file);
+    }
+    const auto& server = target.connectMode == kLocalNetwork ? target.configurationServer : target.webAddress;
+    throw Error(ErrorNumber::ServerUnreachable, "mode " + std::to_string(target.connectMode), {server});
+  };
+}
+
+}  // namespace mindloft::Corvane

@@ -1,0 +1,71 @@
+#include "backend/corvane/KDomain.h"
+
+#include <utility>
+
+#include "backend/corvane/ChangedField.h"
+#include "backend/corvane/DGroups.h"
+#include "backend/corvane/IdList.h"
+#include "backend/corvane/MembershipLists.h"
+#include "backend/corvane/Users.h"
+#include "backend/errors/Error.h"
+
+namespace mindloft::Corvane {
+
+KDomain::KDomain(std::shared_ptr<Session> session, DomainRecord stored)
+    : session_(std::move(session)), stored_(std::move(stored)), edited_(stored_) {}
+
+std::string KDomain::Id() const {
+  return IdText(stored_.id);
+}
+
+std::string KDomain::StyleId() const {
+  return IdText(edited_.style);
+}
+
+void KDomain::SetStyleId(const std::string& id) {
+  const auto ids = IdsFromList(id);
+  if (ids.size() > 1) throw Error(ErrorNumber::TypeMismatch, "more than one style");
+  edited_.style = ids.empty() ? 0 : ids.front();
+}
+
+std::shared_ptr<Users> KDomain::DUsers() const {
+  return std::make_shared<Users>(session_, Collection::DomainUsers, stored_.id);
+}
+
+std::shared_ptr<DGroups> KDomain::DGroups() const {
+  return std::make_shared<Corvane::DGroups>(session_, stored_.id);
+}
+
+void KDomain::Update(const Progress& progress) {
+  if (IsNew()) {
+    stored_ = session_->Door().CreateDomain(session_->id, edited_, copy_, progress);
+  } else {
+    DomainChange change;
+    change.id = stored_.id;
+    change.version = stored_.version;
+    bool changed = TakeChanged(change.name, stored_.name, edited_.name);
+    changed |= TakeChanged(change.description, stored_.description, edited_.description);
+    changed |= TakeChanged(change.style, stored_.style, edited_.style);
+    changed |= TakeChanged(change.disabled, stored_.disabled, edited_.disabled);
+    if (!changed) return;
+    stored_ = session_->Door().ChangeDomain(session_->id, change);
+  }
+  edited_ = stored_;
+}
+
+void KDomain::CancelEdit(bool cancel) {
+  if (!cancel) return;
+  edited_ = stored_;
+  copy_ = {};
+}
+
+void KDomain::ChangeUsers(const std::string& additions, const std::string& removals) {
+  stored_.version = ChangeMemberships(*session_, Membership::DomainUsers, {stored_.id, stored_.version},
+                                      additions, removals);
+}
+
+std::shared_ptr<Users> KDomain::GetUsersNotAccessible() const {
+  return std::make_shared<Users>(session_, Collection::UsersWithoutDomain, stored_.id);
+}
+
+}  // namespace mindloft::Corvane
