@@ -2,7 +2,10 @@
 
 #include <wx/string.h>
 
+#include <filesystem>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "backend/tessaline/LanguageFile.h"
@@ -34,10 +37,12 @@ enum class Setting : int {
 /// Language texts and client settings.
 class Resource {
  public:
-  /// Takes the language of setting 14, English when that is not set or has no file.
-  explicit Resource(std::shared_ptr<Registry> registry);
+  /// Takes the language of setting 14; English when that is not set or its file is missing or damaged
+  /// (LastProblem tells). The files lie in `languageFolder`; an empty one means the program's own. Only the
+  /// chosen language's file is read.
+  explicit Resource(std::shared_ptr<Registry> registry, std::filesystem::path languageFolder = {});
 
-  /// The text of that number in the current language; "#59300" when there is none.
+  /// The text of that number in the current language, else in English; "#59300" when there is none.
   wxString GetString(int number) const;
   /// The text with "%1", "%2", ... replaced by the parameters ("%%" is a per cent sign).
   wxString GetFormatString(int number, const std::vector<wxString>& parameters) const;
@@ -54,6 +59,9 @@ class Resource {
   /// caption that the language file gives for the form's name and the window's name (and its tool tip, where
   /// there is one).
   void LoadInfoOnForm(wxWindow& form) const;
+  /// The caption for a control, menu item or tool of a form in the current language, else in English; nothing
+  /// when neither has it.
+  std::optional<LanguageFile::Caption> CaptionOf(const wxString& form, const wxString& control) const;
 
   /// The code of the current language (1033, ...).
   int CurrentLanguage() const;
@@ -61,15 +69,27 @@ class Resource {
   /// none of that code or its file is damaged.
   bool SwitchLanguage(int code);
   bool IsRightToLeft() const;
-  /// Codes of all languages that there are, the program's own order.
+  /// Codes of all languages that can be used: English, simplified Chinese, Arabic, then others by code. The
+  /// folder is read at the first call.
   std::vector<int> Languages() const;
   /// The language's name in itself.
   wxString LanguageName(int code) const;
   const LanguageFile& Language() const { return *language_; }
+  /// What was wrong with the last language file that could not be used; empty when nothing was. English (or
+  /// the language in use) stands in for it. The user reads text 61440 with this as its parameter.
+  const wxString& LastProblem() const { return lastProblem_; }
 
  private:
+  std::shared_ptr<const LanguageFile> TryLoad(int code) const;
+  std::filesystem::path FileOf(int code) const;
+  const LanguageFile& English() const;
+
   std::shared_ptr<Registry> registry_;
+  std::filesystem::path languageFolder_;
   std::shared_ptr<const LanguageFile> language_;
+  mutable std::shared_ptr<const LanguageFile> english_;  ///< the built-in one, once it is needed
+  mutable std::map<int, wxString> names_;                ///< by code, once the folder has been read
+  mutable wxString lastProblem_;
 };
 
 }  // namespace mindloft::Tessaline

@@ -13,4 +13,7 @@ namespace mindloft {
 wxString ToWx(std::string_view utf8);
 std::string ToUtf8(const wxString& text);
 
+/// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates, nothing past U+10FFFF).
+bool IsValidUtf8(std::string_view bytes);
+
 }  // namespace mindloft

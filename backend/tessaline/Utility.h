@@ -2,8 +2,8 @@
 
 #include <wx/string.h>
 
-#include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include "backend/errors/Error.h"
@@ -11,12 +11,16 @@
 
 namespace mindloft::Tessaline {
 
+class LogFile;
+
 /// File helpers, the error report and error kinds.
 class Utility {
  public:
-  /// Opens the log file `mindloft-console.log` in `logFolder`: 1 MiB, three old ones kept. No log when it
-  /// cannot be written. An empty folder: the platform's place for logs (documented in docs/architecture.md).
+  /// The log file is `mindloft-console.log` in `logFolder`: 1 MiB, three old ones kept; it is opened at the
+  /// first line. No log when it cannot be written. An empty folder: the platform's place for logs (documented
+  /// in docs/architecture.md).
   explicit Utility(std::filesystem::path logFolder = {});
+  ~Utility();
 
   /// The path of a file of that name in the folder or below it; empty when there is none. A leading "\" or
   /// "/" is ignored.
@@ -27,9 +31,14 @@ class Utility {
   /// Adds the procedure to the error's trail, writes the log record and returns the number in the slot.
   void ReportError(const std::string& objectName, const std::string& procedureName, ErrorNumber& number,
                    Error& error, int line);
-  /// One line into the log file.
-  void Log(const std::string& line);
-  std::filesystem::path LogFile() const;
+  /// One line into the log file; line breaks and other control characters are written as escapes. Never
+  /// fails.
+  void Log(const std::string& line) noexcept;
+  std::filesystem::path LogFilePath() const;
+
+ private:
+  std::filesystem::path logFolder_;
+  std::unique_ptr<LogFile> log_;
 };
 
 }  // namespace mindloft::Tessaline
