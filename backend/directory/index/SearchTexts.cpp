@@ -1,0 +1,105 @@
+#include "backend/directory/index/SearchTexts.h"
+
+#include "backend/directory/index/TextChunk.h"
+#include "backend/directory/index/TextFinder.h"
+#include "backend/errors/Error.h"
+
+namespace mindloft {
+namespace {
+
+constexpr std::size_t kUsers = TextChunk::kUsers;
+
+std::int64_t ChunkOf(PackedId id) {
+  return id / kUsers;
+}
+std::size_t SlotOf(PackedId id) {
+  return id % kUsers;
+}
+
+/// Fewer chunks than these are fetched one by one; more are read faster all in a row.
+constexpr std::size_t kFewChunks = 400;
+
+void SearchChunk(const TextFinder& finder, std::int64_t number, const TextChunk& chunk, IdSet& found) {
+  std::string_view texts = chunk.Texts();
+  std::size_t slot = 0;
+  for (std::size_t at = finder.Find(texts, 0); at != std::string_view::npos; at = finder.Find(texts, at)) {
+    while (slot < kUsers && chunk.EndOf(slot) <= at) ++slot;
+    if (slot == kUsers) return;
+    found.Add(static_cast<PackedId>(static_cast<std::size_t>(number) * kUsers + slot));
+    at = chunk.EndOf(slot);
+  }
+}
+
+}  // namespace
+
+void SearchTexts::CreateTable(sqlite::Database& database) {
+  database.Execute("CREATE TABLE user_text(chunk INTEGER PRIMARY KEY, texts BLOB NOT NULL)");
+}
+
+sqlite::CachedStatement SearchTexts::Select(PackedId id) {
+  auto select = database_.Prepare("SELECT texts FROM user_text WHERE chunk=?");
+  select->BindAll(ChunkOf(id));
+  return select;
+}
+
+std::optional<FoldedUser> SearchTexts::Find(PackedId id) {
+  auto select = Select(id);
+  if (!select->Step()) return std::nullopt;
+  return TextChunk(select->BlobView(0)).UserAt(SlotOf(id));
+}
+
+std::string_view SearchTexts::Key(PackedId id, Order order) {
+  auto select = Select(id);
+  if (select->Step()) {
+    if (auto key = TextChunk(select->BlobView(0)).KeyAt(SlotOf(id), order)) {
+      key_ = *key;
+      return key_;
+    }
+  }
+  throw Error(ErrorNumber::DirectoryDamaged, "user " + std::to_string(id) + " has no search texts");
+}
+
+void SearchTexts::Put(PackedId id, const FoldedUser* user) {
+  std::string changed;
+  {
+    auto select = Select(id);
+    TextChunk chunk(select->Step() ? select->BlobView(0) : std::string_view());
+    changed = chunk.With(SlotOf(id), user);
+  }
+  if (TextChunk(changed).Empty()) {
+    auto remove = database_.Prepare("DELETE FROM user_text WHERE chunk=?");
+    remove->BindAll(ChunkOf(id)).Run();
+    return;
+  }
+  auto put = database_.Prepare("INSERT OR REPLACE INTO user_text(chunk,texts) VALUES(?,?)");
+  put->Bind(0, ChunkOf(id)).BindBlob(1, changed).Run();
+}
+
+IdSet SearchTexts::Search(const std::string& text, const IdSet* within) {
+  const TextFinder finder(text);
+  IdSet found;
+  std::vector<std::int64_t> few;
+  bool isFew = false;
+  if (within) {
+    std::size_t chunks = 0;
+    within->ForEachStretch(kUsers, [&](std::size_t number) {
+      if (++chunks <= kFewChunks) few.push_back(static_cast<std::int64_t>(number));
+    });
+    isFew = chunks <= kFewChunks;
+  }
+  if (isFew) {
+    auto select = database_.Prepare("SELECT texts FROM user_text WHERE chunk=?");
+    for (auto number : few) {
+      select->Reset();
+      select->BindAll(number);
+      if (select->Step()) SearchChunk(finder, number, TextChunk(select->BlobView(0)), found);
+    }
+  } else {
+    auto select = database_.Prepare("SELECT chunk,texts FROM user_text ORDER BY chunk");
+    while (select->Step()) SearchChunk(finder, select->Int(0), TextChunk(select->BlobView(1)), found);
+  }
+  if (within) found.KeepOnly(*within);
+  return found;
+}
+
+}  // namespace mindloft
