@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <utility>
 
 #include "backend/errors/Error.h"
@@ -9,7 +10,8 @@ namespace mindloft {
 // The trap of every procedure: a function-try-block that ends in one of these. Both belong in a catch block
 // only.
 
-/// For a procedure that is no event handler: reports the error with this procedure and throws it on.
+/// For a procedure that is no event handler: reports the error with this procedure and throws it on. Inside a
+/// window class it is called as mindloft::Raise: the toolkit's windows have a Raise of their own.
 [[noreturn]] void Raise(const char* objectName, const char* procedureName);
 
 /// For an event handler: reports the error with this procedure and shows it, once. Never throws.

@@ -36,7 +36,8 @@ void FullScreen(wxTopLevelWindow& form);
 /// The url, trimmed, with `replacement` instead of its first characters when these are `prefix` in any case.
 wxString SetURL(const wxString& url, const wxString& prefix, const wxString& replacement);
 
-/// Unloads all open forms, the last first; false when one refused.
-bool Shutdown();
+/// Unloads all open forms, the last first; false when one refused. A form that calls it while it is being
+/// unloaded itself names itself in `except`.
+bool Shutdown(const wxTopLevelWindow* except = nullptr);
 
 }  // namespace mindloft

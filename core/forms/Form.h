@@ -4,16 +4,23 @@
 #include <wx/frame.h>
 #include <wx/string.h>
 
-#include <string>
-
-#include "backend/errors/Error.h"
+class wxXmlResourceHandler;
 
 namespace mindloft {
 
-/// Loads "forms/<name>.xrc" into `dialog` (two-step construction) and throws when the resource has any error:
-/// an unknown class, a property of the wrong type, a missing form.
+/// Makes a control of our own known to the forms' XRC. Takes ownership; once per class, before a form that
+/// holds the control is loaded.
+void RegisterFormHandler(wxXmlResourceHandler* handler);
+
+/// Loads the built-in "forms/<name>.xrc" into `dialog` (two-step construction) in the layout direction of the
+/// current language, and throws when the resource has any error: an unknown class, a property of the wrong
+/// type, a missing form.
 void LoadDialogForm(wxDialog& dialog, wxWindow* parent, const wxString& name);
 void LoadFrameForm(wxFrame& frame, wxWindow* parent, const wxString& name);
+
+/// Gives the window and all below it the layout direction of the current language. Lists that the toolkit
+/// draws itself stay left to right: their glyphs would be mirrored.
+void ApplyLayoutDirection(wxWindow& window);
 
 [[noreturn]] void ThrowMissingControl(const wxWindow& form, const char* name, const char* type);
 
@@ -52,8 +59,9 @@ class FormDialog : public wxDialog {
   /// Captions are loaded by the derived class through LoadInfoOnForm.
   FormDialog(wxWindow* parent, const wxString& formName);
 
-  /// Sets every caption in the current language and fits the form to them.
+  /// Sets every caption in the current language and makes the form large enough for them.
   virtual void LoadInfoOnForm();
+  int ShowModal() override;
 
  protected:
   /// The buttons of Enter and Esc. ShowModal returns wxID_OK or wxID_CANCEL when they close the form.
