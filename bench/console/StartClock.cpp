@@ -1,0 +1,97 @@
+#include "bench/console/StartClock.h"
+
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <wx/app.h>
+#include <wx/toplevel.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <sstream>
+#include <stdexcept>
+
+#include "bench/console/PaintClock.h"
+
+extern char** environ;
+
+namespace mindloft::bench {
+namespace {
+
+constexpr const char* kBegin = "MINDLOFT_BENCH_BEGIN";
+
+}  // namespace
+
+long PeakKiB() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
+}
+
+void ReportWhenReady(wxTopLevelWindow& window) {
+  // The frame clock exists from the window's realization on; its first frame is the window's first picture.
+  auto clock = std::make_shared<std::unique_ptr<PaintClock>>();
+  wxTheApp->Bind(wxEVT_IDLE, [clock, &window](wxIdleEvent& event) {
+    event.Skip();
+    if (!window.IsShownOnScreen()) return;
+    if (!*clock) {
+      *clock = std::make_unique<PaintClock>(window);
+      return;
+    }
+    if (!(*clock)->HasPainted()) return;
+    const char* begin = std::getenv(kBegin);
+    std::printf("ready %.2f\npeak %ld\n", NowMs() - (begin ? std::atof(begin) : 0), PeakKiB());
+    std::fflush(stdout);
+    _exit(0);
+  });
+}
+
+double Figures::Get(const std::string& name) const {
+  for (const auto& [key, value] : values) {
+    if (key == name) return value;
+  }
+  throw std::runtime_error("no figure '" + name + "' was reported");
+}
+
+Figures RunMeasured(const std::vector<std::string>& command) {
+  int out[2];
+  if (pipe(out) != 0) throw std::runtime_error("no pipe");
+  char begin[64];
+  std::snprintf(begin, sizeof begin, "%.3f", NowMs());
+  setenv(kBegin, begin, 1);
+
+  std::vector<char*> arguments;
+  for (const auto& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
+  posix_spawn_file_actions_addclose(&actions, out[0]);
+  pid_t child = 0;
+  int failed = posix_spawn(&child, arguments[0], &actions, nullptr, arguments.data(), environ);
+  posix_spawn_file_actions_destroy(&actions);
+  close(out[1]);
+  if (failed != 0) throw std::runtime_error("cannot start " + command[0]);
+
+  std::string text;
+  char buffer[4096];
+  for (ssize_t got = 0; (got = read(out[0], buffer, sizeof buffer)) > 0;)
+    text.append(buffer, static_cast<std::size_t>(got));
+  close(out[0]);
+  int status = 0;
+  waitpid(child, &status, 0);
+  if (status != 0) throw std::runtime_error(command[0] + " failed: " + text);
+
+  Figures figures;
+  std::istringstream lines(text);
+  for (std::string name; lines >> name;) {
+    double value = 0;
+    lines >> value;
+    figures.values.emplace_back(name, value);
+  }
+  return figures;
+}
+
+}  // namespace mindloft::bench
