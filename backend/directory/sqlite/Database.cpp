@@ -127,11 +127,21 @@ CachedStatement Database::Prepare(std::string_view sql) {
   return CachedStatement(*found->second);
 }
 
+FileState Database::State() {
+  auto version = Prepare("PRAGMA data_version");
+  version->Step();
+  return {version->Int(0), sqlite3_total_changes64(database_.get()), ownTransactions_};
+}
+
 Transaction::Transaction(Database& database) : database_(database) {
+  if (!sqlite3_get_autocommit(database_.Handle())) {
+    throw Error(ErrorNumber::DirectoryBusy, "a change is under way");
+  }
   database_.Execute("BEGIN IMMEDIATE");
 }
 
 Transaction::~Transaction() {
+  ++database_.ownTransactions_;
   // After some failures the engine has rolled back by itself; there is nothing left to do then.
   if (open_ && !sqlite3_get_autocommit(database_.Handle())) {
     sqlite3_exec(database_.Handle(), "ROLLBACK", nullptr, nullptr, nullptr);

@@ -73,6 +73,14 @@ class CachedStatement {
   Statement* statement_;
 };
 
+/// Identifies a state of the file as one connection sees it: equal as long as nothing has changed.
+struct FileState {
+  std::int64_t otherConnections = 0;  ///< changes by others
+  std::int64_t ownRows = 0;           ///< rows written by this one
+  std::int64_t ownTransactions = 0;   ///< transactions ended: a rolled back one takes its rows back
+  bool operator==(const FileState&) const = default;
+};
+
 /// One connection to a database file.
 class Database {
  public:
@@ -86,8 +94,11 @@ class Database {
   /// Rows changed by the last statement.
   std::int64_t Changes() const { return sqlite3_changes64(database_.get()); }
   sqlite3* Handle() const { return database_.get(); }
+  /// The state that the next read sees; within a Snapshot or Transaction, the state that all its reads see.
+  FileState State();
 
  private:
+  friend class Transaction;
   struct Close {
     void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
   };
@@ -96,11 +107,13 @@ class Database {
     std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
   };
   std::unique_ptr<sqlite3, Close> database_;
+  std::int64_t ownTransactions_ = 0;
   // Closed before the database.
   std::unordered_map<std::string, std::unique_ptr<Statement>, Hash, std::equal_to<>> statements_;
 };
 
-/// A write transaction (BEGIN IMMEDIATE): rolled back when it goes without Commit.
+/// A write transaction (BEGIN IMMEDIATE): rolled back when it goes without Commit. DirectoryBusy when one is
+/// open already, as it is while a long change reports its progress.
 class Transaction {
  public:
   explicit Transaction(Database& database);

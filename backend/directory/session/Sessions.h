@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string_view>
+#include <unordered_map>
+
+#include "backend/directory/Directory.h"
+#include "backend/directory/session/Caller.h"
+#include "backend/directory/session/LoginThrottle.h"
+#include "backend/directory/store/Journal.h"
+
+namespace mindloft {
+
+/// Who is logged in at this process. A session ends with Logout and when its user is deleted or disabled, by
+/// whomever.
+class Sessions {
+ public:
+  Sessions(sqlite::Database& database, Journal& journal, LoginThrottle& throttle)
+      : database_(database), journal_(journal), throttle_(throttle) {}
+
+  /// Writes the time of the login and its journal row, in a transaction of its own.
+  SessionId Login(std::string_view name, std::string_view password);
+  void Logout(SessionId session) { users_.erase(session); }
+  /// NotLoggedIn for an unknown session or a deleted user, AccountDisabled.
+  Caller Require(SessionId session);
+
+ private:
+  struct Account {
+    ObjectId id = 0;
+    std::string name, password;
+    bool enabled = false;
+  };
+  Account FindAccount(const std::string& nameKey);
+  void Record(const Account& account, std::string_view password);
+
+  sqlite::Database& database_;
+  Journal& journal_;
+  LoginThrottle& throttle_;
+  std::unordered_map<SessionId, ObjectId> users_;
+};
+
+}  // namespace mindloft

@@ -1,0 +1,115 @@
+#include "backend/directory/store/CollectionWindows.h"
+
+#include <algorithm>
+
+#include "backend/directory/FoldedText.h"
+
+namespace mindloft {
+namespace {
+
+/// As many as a main window with a property sheet and a picker above it shows.
+constexpr std::size_t kKeptWindows = 8;
+
+/// Identifier, name key, and the other listed text of all rows of the scope ?1.
+const char* RowsSql(Collection collection) {
+  switch (collection) {
+    case Collection::Roles:
+      return "SELECT id, name_key, '' FROM role WHERE ?1 IS NOT NULL";
+    case Collection::UserRoles:
+      return "SELECT r.id, r.name_key, '' FROM role_member m JOIN role r ON r.id = m.role WHERE m.user = ?1";
+    case Collection::Domains:
+      return "SELECT id, name_key, description FROM domain WHERE ?1 IS NOT NULL";
+    case Collection::UserDomains:
+      return "SELECT d.id, d.name_key, d.description FROM domain_user m JOIN domain d ON d.id = m.domain "
+             "WHERE m.user = ?1";
+    case Collection::DomainGroups:
+      return "SELECT id, name_key, description FROM grp WHERE domain = ?1";
+    case Collection::UserGroups:
+      return "SELECT g.id, g.name_key, g.description FROM group_member m JOIN grp g ON g.id = m.grp "
+             "WHERE m.user = ?1";
+    case Collection::Styles:
+      return "SELECT id, name_key, '' FROM style WHERE ?1 IS NOT NULL";
+    case Collection::Journal:
+      return "SELECT id, name, who FROM journal WHERE ?1 IS NOT NULL";
+    default:
+      break;
+  }
+  throw Error(ErrorNumber::TypeMismatch, "no window on users");
+}
+
+bool HasDescription(Collection collection) {
+  return collection == Collection::Domains || collection == Collection::UserDomains ||
+         collection == Collection::DomainGroups || collection == Collection::UserGroups;
+}
+
+}  // namespace
+
+const CollectionWindows::Window& CollectionWindows::Get(const Query& query) {
+  if (sqlite::FileState now = database_.State(); now != state_) {
+    windows_.clear();
+    state_ = now;
+  }
+  auto found = std::ranges::find(windows_, query, &Window::query);
+  if (found != windows_.end()) {
+    windows_.splice(windows_.begin(), windows_, found);
+  } else {
+    windows_.push_front({query, Build(query)});
+    if (windows_.size() > kKeptWindows) windows_.pop_back();
+  }
+  return windows_.front();
+}
+
+std::vector<CollectionWindows::Row> CollectionWindows::Build(const Query& query) {
+  const bool journal = query.collection == Collection::Journal;
+  const bool byDescription = query.order == Order::Description && HasDescription(query.collection);
+  const std::string filter = FoldedText(query.filter);
+  std::vector<Row> rows;
+  auto row = database_.Prepare(RowsSql(query.collection));
+  row->BindAll(query.scope);
+  while (row->Step()) {
+    std::string name = journal ? FoldedText(row->TextView(1)) : row->Text(1);
+    std::string other;
+    if (byDescription || !filter.empty()) other = FoldedText(row->TextView(2));
+    if (name.find(filter) == std::string::npos && other.find(filter) == std::string::npos) continue;
+    // The journal is ordered by identifier alone.
+    rows.push_back({journal ? std::string() : byDescription ? other : name, row->Int(0)});
+  }
+  if (query.descending || journal) {
+    std::ranges::sort(rows, std::ranges::greater());
+  } else {
+    std::ranges::sort(rows);
+  }
+  return rows;
+}
+
+std::vector<ObjectId> CollectionWindows::Page(const Query& query, std::int64_t first, std::int64_t count) {
+  const auto& rows = Get(query).rows;
+  std::int64_t size = std::ssize(rows);
+  first = std::clamp<std::int64_t>(first, 0, size);
+  count = std::clamp<std::int64_t>(count, 0, size - first);
+  std::vector<ObjectId> ids;
+  for (std::int64_t i = first; i < first + count; ++i) ids.push_back(rows[static_cast<std::size_t>(i)].id);
+  return ids;
+}
+
+std::int64_t CollectionWindows::FindPrefix(const Query& query, std::string_view prefix, std::int64_t from) {
+  const auto& rows = Get(query).rows;
+  if (rows.empty() || query.collection == Collection::Journal) return -1;
+  const std::string key = FoldedText(prefix);
+  auto fits = [&](const Row& row) { return row.key.starts_with(key); };
+  auto start = rows.begin() + std::clamp<std::int64_t>(from, 0, std::ssize(rows));
+  auto found = std::find_if(start, rows.end(), fits);
+  if (found == rows.end()) {
+    found = std::find_if(rows.begin(), start, fits);
+    if (found == start) return -1;
+  }
+  return found - rows.begin();
+}
+
+std::int64_t CollectionWindows::PositionOf(const Query& query, ObjectId object) {
+  const auto& rows = Get(query).rows;
+  auto found = std::ranges::find(rows, object, &Row::id);
+  return found == rows.end() ? -1 : found - rows.begin();
+}
+
+}  // namespace mindloft
