@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "backend/directory/index/FileState.h"
 #include "backend/directory/index/IndexCheck.h"
 #include "backend/directory/index/IndexImage.h"
 #include "backend/directory/index/Packed.h"
@@ -15,7 +14,6 @@ struct UserIndex::Impl {
   Impl(sqlite::Database& file, std::size_t sizeOfBlocks)
       : database(file),
         blockSize(sizeOfBlocks),
-        state(file),
         texts(file),
         orders{UserOrder(file, texts, Order::Name, sizeOfBlocks),
                UserOrder(file, texts, Order::FullName, sizeOfBlocks),
@@ -23,7 +21,9 @@ struct UserIndex::Impl {
         selections(file, texts, orders[PlaceOf(Order::Name)]) {}
 
   void Refresh() {
-    if (state.Changed()) Forget();
+    auto now = database.State();
+    if (now != state) Forget();
+    state = now;
   }
   void Forget() {
     for (auto& order : orders) order.Forget();
@@ -49,7 +49,7 @@ struct UserIndex::Impl {
 
   sqlite::Database& database;
   std::size_t blockSize;
-  FileState state;
+  sqlite::FileState state;  ///< of which the rest remembers
   SearchTexts texts;
   std::array<UserOrder, kOrders.size()> orders;
   Selections selections;
