@@ -7,17 +7,12 @@
 #include <memory>
 #include <vector>
 
+#include "controls/ExplorerColumn.h"
 #include "controls/ExplorerRows.h"
 
 class wxBitmapBundle;
 
 namespace mindloft {
-
-struct ExplorerColumn {
-  wxString caption;
-  int width = 150;  ///< in explorer width units: pixels at 96 dpi
-  bool operator==(const ExplorerColumn&) const = default;
-};
 
 /// The explorer control: a tree on the left, a search box and a list on the right, a movable border between
 /// them.
@@ -26,7 +21,7 @@ struct ExplorerColumn {
 /// were all nodes expanded. An index changes when nodes before it come or go; a key does not.
 class ctExplorer : public wxPanel {
  public:
-  ctExplorer() = default;  ///< for XRC; Create follows
+  ctExplorer();  ///< for XRC; Create follows
   explicit ctExplorer(wxWindow* parent, const wxString& name = "ctExplorer", bool withTree = true);
   ~ctExplorer() override;
   bool Create(wxWindow* parent, const wxString& name = "ctExplorer", bool withTree = true);
@@ -63,6 +58,8 @@ class ctExplorer : public wxPanel {
   /// Drops rows and columns.
   void ClearList();
   void AddColumn(const ExplorerColumn& column);
+  /// An unknown index changes nothing.
+  void SetColumnWidth(int column, int width);
   const std::vector<ExplorerColumn>& Columns() const;
   /// Shows the rows, sorted by the first sortable column, with an empty search box.
   void SetRows(std::shared_ptr<ExplorerRows> rows);

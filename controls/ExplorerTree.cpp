@@ -1,0 +1,112 @@
+#include "controls/ExplorerTree.h"
+
+#include "core/ErrorHandling.h"
+
+namespace mindloft {
+
+namespace {
+
+/// Leads from the native tree's item back to the node.
+class NodeData : public wxTreeItemData {
+ public:
+  explicit NodeData(TreeNode* node) : node(node) {}
+  TreeNode* node;
+};
+
+}  // namespace
+
+ExplorerTree::ExplorerTree(wxWindow* parent)
+    : wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                 wxTR_HAS_BUTTONS | wxTR_SINGLE | wxTR_NO_LINES | wxTR_LINES_AT_ROOT, wxDefaultValidator,
+                 "tree") {
+  Bind(wxEVT_TREE_SEL_CHANGED,
+       [this](wxTreeEvent&) { Guarded("ctExplorer", "TreeSelection", [this] { NoticeSelection(); }); });
+  Bind(wxEVT_TREE_ITEM_MENU, [this](wxTreeEvent& event) {
+    Guarded("ctExplorer", "TreeMenu",
+            [&] { ShowMenu(NodeOf(event.GetItem()), ClientToScreen(event.GetPoint())); });
+  });
+}
+
+TreeNode* ExplorerTree::NodeOf(const wxTreeItemId& item) const {
+  const auto* data = item.IsOk() ? static_cast<const NodeData*>(GetItemData(item)) : nullptr;
+  return data ? data->node : nullptr;
+}
+
+TreeNode* ExplorerTree::SelectedNode() const {
+  return nodes_.Count() > 0 ? NodeOf(GetSelection()) : nullptr;
+}
+
+TreeNode& ExplorerTree::AddNode(TreeNode* parent, const wxString& text, const wxString& key, int image,
+                                std::int32_t data) {
+  TreeNode& node = nodes_.Add(parent, text, key, image, data);
+  auto* back = new NodeData(&node);
+  changing_ = true;
+  const wxTreeItemId item =
+      node.parent ? AppendItem(ItemOf(*node.parent), text, image, -1, back) : AddRoot(text, image, -1, back);
+  changing_ = false;
+  node.item = item.GetID();
+  return node;
+}
+
+void ExplorerTree::RemoveNode(TreeNode& node) {
+  if (!node.parent) return ClearNodes();
+  changing_ = true;
+  if (TreeNodes::IsWithin(SelectedNode(), node)) SelectItem(ItemOf(*node.parent));
+  Delete(ItemOf(node));
+  changing_ = false;
+  if (TreeNodes::IsWithin(noticed_, node)) noticed_ = nullptr;
+  nodes_.Remove(node);
+  NoticeSelection();
+}
+
+void ExplorerTree::ClearNodes() {
+  changing_ = true;
+  DeleteAllItems();
+  changing_ = false;
+  nodes_.Clear();
+  noticed_ = nullptr;
+}
+
+void ExplorerTree::ShowText(TreeNode& node, const wxString& text) {
+  if (node.text == text) return;
+  node.text = text;
+  SetItemText(ItemOf(node), text);
+}
+
+void ExplorerTree::ShowImage(TreeNode& node, int image) {
+  if (node.image == image) return;
+  node.image = image;
+  SetItemImage(ItemOf(node), image);
+}
+
+void ExplorerTree::SelectNode(TreeNode& node) {
+  changing_ = true;
+  if (SelectedNode() != &node) SelectItem(ItemOf(node));
+  EnsureVisible(ItemOf(node));
+  changing_ = false;
+  NoticeSelection();
+}
+
+void ExplorerTree::ExpandNode(TreeNode& node) {
+  Expand(ItemOf(node));
+}
+
+bool ExplorerTree::IsNodeExpanded(const TreeNode& node) const {
+  return IsExpanded(ItemOf(node));
+}
+
+void ExplorerTree::NoticeSelection() {
+  if (changing_) return;
+  TreeNode* selected = SelectedNode();
+  if (selected == noticed_) return;
+  noticed_ = selected;
+  if (selected && changed) changed(selected->index);
+}
+
+void ExplorerTree::ShowMenu(TreeNode* node, wxPoint screen) {
+  if (!node) return;
+  SelectNode(*node);
+  if (contextMenu) contextMenu(node->index, screen);
+}
+
+}  // namespace mindloft
