@@ -1,7 +1,7 @@
 #include "platform/Paths.h"
 
-#include <shlobj.h>
 #include <windows.h>
+#include <shlobj.h>
 
 #include <memory>
 

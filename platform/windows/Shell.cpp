@@ -1,7 +1,7 @@
 #include "platform/Shell.h"
 
-#include <shellapi.h>
 #include <windows.h>
+#include <shellapi.h>
 
 #include "platform/windows/Wide.h"
 

@@ -1,7 +1,7 @@
 #include "platform/SystemGuid.h"
 
-#include <objbase.h>
 #include <windows.h>
+#include <objbase.h>
 
 namespace mindloft::platform {
 

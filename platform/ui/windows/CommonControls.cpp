@@ -1,7 +1,7 @@
 #include "platform/ui/CommonControls.h"
 
-#include <commctrl.h>
 #include <windows.h>
+#include <commctrl.h>
 
 namespace mindloft::platform {
 

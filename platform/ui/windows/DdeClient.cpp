@@ -1,7 +1,7 @@
 #include "platform/ui/windows/DdeClient.h"
 
-#include <ddeml.h>
 #include <windows.h>
+#include <ddeml.h>
 
 #include "platform/windows/Wide.h"
 

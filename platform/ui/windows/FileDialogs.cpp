@@ -1,8 +1,8 @@
 #include "platform/ui/FileDialogs.h"
 
+#include <windows.h>
 #include <commdlg.h>
 #include <shlobj.h>
-#include <windows.h>
 #include <wx/window.h>
 
 #include <memory>

@@ -1,6 +1,7 @@
 #include "platform/ui/MouseWheel.h"
 
 #include <windows.h>
+#include <wx/msw/private.h>
 #include <wx/window.h>
 
 #include <map>
