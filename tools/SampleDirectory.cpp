@@ -22,9 +22,9 @@ struct RoleMember {
   const char* fullName;
   const char* department;
 };
-constexpr RoleMember kRoleMembers[] = {{"librarian", "Ingrid Sørensen", "Knowledge Office"},
-                                       {"helpdesk", "Tomáš Beneš", "Customer Support"},
-                                       {"auditor", "Amélie d’Arcy", "Internal Audit"}};
+constexpr RoleMember kRoleMembers[] = {{"auditor", "Amélie d’Arcy", "Internal Audit"},
+                                       {"librarian", "Ingrid Sørensen", "Knowledge Office"},
+                                       {"helpdesk", "Tomáš Beneš", "Customer Support"}};
 
 /// 24 characters of 5 random bits each; characters that look alike are left out.
 std::string NewPassword() {
