@@ -1,0 +1,128 @@
+#include "app/ConsoleApp.h"
+
+#include <wx/image.h>
+#include <wx/msgout.h>
+#include <wx/platinfo.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#include "app/LogTarget.h"
+#include "app/frmHidden.h"
+#include "app/modPublic.h"
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/Text.h"
+#include "core/ErrorHandling.h"
+#include "core/forms/Form.h"
+#include "mainwindow/ApplicationServices.h"
+#include "platform/ui/WindowHelpers.h"
+
+namespace mindloft {
+namespace {
+
+constexpr int kApplicationTitle = 61200;
+constexpr int kHelpText = 61240;
+constexpr int kVersionText = 61241;
+constexpr int kDirectoryIsMissing = 61242;
+
+std::vector<wxString> Arguments(int argc, wxChar** argv) {
+  std::vector<wxString> arguments;
+  for (int i = 1; i < argc; ++i) arguments.emplace_back(argv[i]);
+  return arguments;
+}
+
+/// To the terminal, or to a message box where a program with windows has none.
+void Print(const wxString& text) {
+  if (wxPlatformInfo::Get().GetOperatingSystemId() & wxOS_WINDOWS) {
+    wxMessageOutputBest().Output(text);
+  } else {
+    std::cout << ToUtf8(text) << std::endl;
+  }
+}
+
+}  // namespace
+
+ConsoleApp::ConsoleApp() {
+  SetAppName("mindloft-console");
+  SetVendorName("Ordwell");
+}
+
+ConsoleApp::~ConsoleApp() = default;
+
+bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
+  options_ = CommandLineOptions::Parse(Arguments(argc, argv));
+  // Before the toolkit asks for a display, which these do not need.
+  if (options_.help || options_.version) {
+    auto& resource = GetResource();
+    Print(options_.help ? resource.GetString(kHelpText)
+                        : resource.GetFormatString(kVersionText, {MINDLOFT_VERSION}));
+    std::exit(EXIT_SUCCESS);
+  }
+  return wxApp::Initialize(argc, argv);
+} catch (...) {
+  ReportOnly("ConsoleApp", "Initialize");
+  return false;
+}
+
+bool ConsoleApp::OnInit() try {
+  delete wxLog::SetActiveTarget(new LogTarget);
+  wxImage::AddHandler(new wxPNGHandler);
+  SetAppDisplayName(GetResource().GetString(kApplicationTitle));
+  SetHelpAction(ShowHelp);
+  auto& services = GetApplicationServices();
+  services.showHelp = ShowHelp;
+  services.activeMindloft = platform::ActiveMindloft;
+  return true;
+} catch (...) {
+  ShowError("ConsoleApp", "OnInit");
+  return false;
+}
+
+int ConsoleApp::OnRun() try {
+  if (options_.directoryIsMissing) {
+    GetMessenger().ShowMessage(kDirectoryIsMissing);
+    return EXIT_FAILURE;
+  }
+  hidden_ = std::make_unique<frmHidden>(StartServices::Real(options_.directoryFile));
+  hidden_->Form_Load(options_.nodeName);
+  // Handed over, or not logged in: no form remains, and so does no process.
+  return GetTopWindow() ? wxApp::OnRun() : EXIT_SUCCESS;
+} catch (...) {
+  ShowError("ConsoleApp", "OnRun");
+  return EXIT_FAILURE;
+}
+
+int ConsoleApp::OnExit() {
+  hidden_.reset();
+  Guarded("ConsoleApp", "OnExit", [] {
+    SetApplication(nullptr);
+    ResetServices();
+  });
+  delete wxLog::SetActiveTarget(nullptr);
+  return wxApp::OnExit();
+}
+
+wxLayoutDirection ConsoleApp::GetLayoutDirection() const {
+  // The language decides, not the region of the system.
+  return GetResource().IsRightToLeft() ? wxLayout_RightToLeft : wxLayout_LeftToRight;
+}
+
+bool ConsoleApp::OnExceptionInMainLoop() {
+  ShowError("ConsoleApp", "OnExceptionInMainLoop");
+  return true;
+}
+
+void ConsoleApp::OnUnhandledException() {
+  ShowError("ConsoleApp", "OnUnhandledException");
+}
+
+void ConsoleApp::OnAssertFailure(const wxChar* file, int line, const wxChar* function,
+                                 const wxChar* condition, const wxChar* message) {
+  // The toolkit goes on after a failed check; so does the program, and the log tells.
+  wxString text;
+  text << "toolkit check failed: " << condition << " in " << function << " at " << file << ":" << line;
+  if (message) text << ": " << message;
+  GetUtility().Log(ToUtf8(text));
+}
+
+}  // namespace mindloft

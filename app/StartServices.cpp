@@ -1,0 +1,42 @@
+#include "app/StartServices.h"
+
+#include <wx/app.h>
+#include <wx/toplevel.h>
+
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/login/LoginDialog.h"
+#include "mainwindow/CommandLineState.h"
+#include "mainwindow/frmSysAdmin.h"
+#include "platform/Paths.h"
+#include "platform/ui/Keyboard.h"
+
+namespace mindloft {
+
+StartServices StartServices::Real(std::filesystem::path directoryFile) {
+  if (directoryFile.empty()) directoryFile = platform::DefaultDirectoryFile();
+  StartServices services;
+  services.directories = Corvane::EmbeddedDirectoryProvider(directoryFile);
+  services.isShiftDown = platform::IsShiftDown;
+  services.login = [directoryFile](const wxString& title) {
+    Tessaline::LoginDialog dialog(directoryFile);
+    return dialog.Login(title);
+  };
+  services.showMainWindow = [] {
+    const bool startWithNode = !GetStringHelper().IsBlank(SavedCommandLine());
+    // Destroys itself when it is closed.
+    auto* window = new frmSysAdmin(GetConnection(), startWithNode);
+    wxTheApp->SetTopWindow(window);
+    window->Show();
+  };
+  services.raiseLogin = [] {
+    for (auto* window : wxTopLevelWindows) {
+      if (window->IsShown()) window->Raise();
+    }
+  };
+  services.handOver = [] {
+    if (auto* window = dynamic_cast<frmSysAdmin*>(wxTheApp->GetTopWindow())) window->HandOver();
+  };
+  return services;
+}
+
+}  // namespace mindloft

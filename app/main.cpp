@@ -1,0 +1,3 @@
+#include "app/ConsoleApp.h"
+
+wxIMPLEMENT_APP(mindloft::ConsoleApp);

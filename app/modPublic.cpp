@@ -1,0 +1,67 @@
+#include "app/modPublic.h"
+
+#include "app/AutoLogin.h"
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/Text.h"
+#include "core/ErrorHandling.h"
+#include "core/modShare.h"
+#include "mainwindow/CommandLineState.h"
+#include "platform/Paths.h"
+#include "platform/Shell.h"
+#include "platform/ui/CommonControls.h"
+
+namespace mindloft {
+namespace {
+
+constexpr int kHelpFile = 49063;
+constexpr int kApplicationTitle = 61200;
+constexpr char kRunOnceKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
+
+/// A damaged switch is reported and means off: it must not keep anybody from logging in.
+bool AutoLoginSwitch() {
+  try {
+    return GetConvert().ToInteger(GetResource().GetSetting(Tessaline::Setting::AutoLoginEnabled)) == 1;
+  } catch (...) {
+    ReportOnly("modPublic", "Main");
+    return false;
+  }
+}
+
+/// Shift asks for the login dialog. It is tested a second time after the registry was read, as the key may be
+/// pressed meanwhile; then "IsLogin" outweighs it.
+bool IsAutoLoginWanted(const StartServices& services) {
+  const bool enabled = AutoLoginSwitch();
+  if (services.isShiftDown()) return false;
+  const bool forced =
+      GetRegistry().GetValue(platform::RegistryRoot::LocalMachine, kRunOnceKey, "IsLogin") != 0;
+  return (!services.isShiftDown() && enabled) || forced;
+}
+
+}  // namespace
+
+void Main(const wxString& commandLine, const StartServices& services) try {
+  SavedCommandLine() = commandLine;
+  platform::InitExtendedComboBoxes();
+  SetApplication(std::make_unique<Corvane::Application>(services.directories));
+  const bool loggedIn = (IsAutoLoginWanted(services) && AutoLogin()) ||
+                        services.login(GetResource().GetString(kApplicationTitle));
+  if (!loggedIn) {
+    Shutdown();
+    return;
+  }
+  services.showMainWindow();
+} catch (...) {
+  Raise("modPublic", "Main");
+}
+
+void ShowHelp() try {
+  const auto name = GetResource().GetString(kHelpFile);
+  const auto file = platform::ResourceFolder() / platform::PathFromUtf8(ToUtf8(name));
+  if (!platform::OpenWithShell(file)) {
+    throw Error(ErrorNumber::PathAccess, platform::PathToUtf8(file), {ToUtf8(name)});
+  }
+} catch (...) {
+  Raise("modPublic", "ShowHelp");
+}
+
+}  // namespace mindloft
