@@ -5,13 +5,12 @@
 
 namespace mindloft {
 
-LoginProblem LoginProblem::Of(const Error& error) {
-  constexpr int kSystemFailure = 61210;
+LoginProblem LoginProblem::Of(const Error& error, int systemFailureText) {
   const int number = static_cast<int>(error.Number());
   LoginProblem problem;
   problem.details = ToWx(error.Description());
   if (!IsApplicationError(error.Number())) {
-    problem.text = GetResource().GetFormatString(kSystemFailure, {wxString::Format("%d", number)});
+    problem.text = GetResource().GetFormatString(systemFailureText, {wxString::Format("%d", number)});
     return problem;
   }
   std::vector<wxString> parameters;

@@ -11,7 +11,9 @@ struct LoginProblem {
   wxString text;
   wxString details;
 
-  static LoginProblem Of(const Error& error);
+  /// `systemFailureText` is the number of the text for a failure of the system; its parameter is the error's
+  /// number.
+  static LoginProblem Of(const Error& error, int systemFailureText);
 };
 
 }  // namespace mindloft

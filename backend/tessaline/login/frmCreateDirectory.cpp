@@ -23,6 +23,7 @@ constexpr int kNameIsMissing = 61221;
 constexpr int kPasswordIsShort = 61222;
 constexpr int kRepeatDiffers = 61223;
 constexpr int kComplete = 61224;
+constexpr int kSystemFailure = 61225;
 /// Of the text lines, in device-independent pixels.
 constexpr int kTextWidth = 320;
 
@@ -75,7 +76,7 @@ void frmCreateDirectory::cmdOK_Click(wxCommandEvent&) try {
   try {
     Corvane::CreateLocalDirectory(file_, ToUtf8(name), password.Utf8());
   } catch (...) {
-    const auto problem = LoginProblem::Of(CurrentError());
+    const auto problem = LoginProblem::Of(CurrentError(), kSystemFailure);
     ReportOnly("frmCreateDirectory", "cmdOK_Click");
     ShowHint(problem.text, problem.details);
     return;

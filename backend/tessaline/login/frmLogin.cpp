@@ -25,6 +25,8 @@ namespace {
 constexpr int kTooManyFailures = 61206;
 constexpr int kNoDirectory = 61207;
 constexpr int kNameIsMissing = 61209;
+constexpr int kSystemFailure = 61210;
+constexpr int kLanguageIsDamaged = 61440;
 /// Of the countdown; fine enough that no second is skipped.
 constexpr int kTickMilliseconds = 200;
 
@@ -126,7 +128,7 @@ void frmLogin::ShowFailure(const Error& error) {
     StartDelay(error);
     return;
   }
-  const auto problem = LoginProblem::Of(error);
+  const auto problem = LoginProblem::Of(error, kSystemFailure);
   ShowMessage(problem.text, problem.details);
   SetButtonStatus();
   if (error.Number() == ErrorNumber::LoginFailed) txtPassword->ChangeValue({});
@@ -158,10 +160,14 @@ void frmLogin::cboLanguage_Click(wxCommandEvent&) try {
   const auto languages = resource.Languages();
   const auto selected = static_cast<std::size_t>(cboLanguage->GetSelection());
   if (selected >= languages.size() || languages[selected] == resource.CurrentLanguage()) return;
-  if (!resource.SwitchLanguage(languages[selected])) return;
+  if (!resource.SwitchLanguage(languages[selected])) {
+    ShowMessage(resource.GetFormatString(kLanguageIsDamaged, {resource.LastProblem()}));
+    return;
+  }
   fields_.userName = txtName->GetValue();
   fields_.server = txtServer->GetValue();
   GetRefresh()->NotifyLanguage();
+  LoadInfoOnForm();
   // A window takes its reading direction when it is made.
   if (resource.IsRightToLeft() != rightToLeft) EndModal(kReopen);
 } catch (...) {
