@@ -1,0 +1,16 @@
+#include "controls/RegisterControls.h"
+
+#include "controls/ExplorerXmlHandler.h"
+#include "core/forms/Form.h"
+
+namespace mindloft {
+
+void RegisterControls() {
+  static const bool registered = [] {
+    RegisterFormHandler(new ExplorerXmlHandler);
+    return true;
+  }();
+  static_cast<void>(registered);
+}
+
+}  // namespace mindloft
