@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "backend/directory/DirectoryLoader.h"
+#include "backend/directory/file/DirectoryFile.h"
 #include "backend/directory/file/Schema.h"
 #include "bench/SampleRows.h"
 
@@ -66,10 +67,9 @@ double InsertPlainly(const std::filesystem::path& from, const std::filesystem::p
 
 void MakeEmpty(const std::filesystem::path& file) {
   std::filesystem::remove(file);
-  sqlite::Database database(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-  database.Execute(("PRAGMA page_size=" + std::to_string(kPageSize)).c_str());
-  database.Execute("PRAGMA journal_mode=WAL");
-  Migrate(database, Migrations());
+  auto database = CreateDirectoryFile(file);
+  Migrate(*database, Migrations());
+  database->Execute("PRAGMA journal_mode=WAL");
 }
 
 void Fill(const std::filesystem::path& file, std::uint32_t users) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "backend/directory/FoldedText.h"
+#include "backend/directory/file/DirectoryFile.h"
 #include "backend/directory/file/Schema.h"
 #include "backend/directory/index/IndexImage.h"
 #include "backend/directory/index/UserIndex.h"
@@ -29,7 +30,8 @@ struct DirectoryLoader::Impl {
     database.Prepare(sql)->BindAll(owner, user).Run();
   }
 
-  sqlite::Database database;
+  std::unique_ptr<sqlite::Database> connection;
+  sqlite::Database& database{*connection};
   Journal journal{database};
   Rights rights{database};
   GroupStore groups{StoreParts{database, journal, rights}};
@@ -39,8 +41,8 @@ struct DirectoryLoader::Impl {
   std::int64_t users = 0, domains = 0, ownGroups = 0, members = 0;
 };
 
-DirectoryLoader::Impl::Impl(const std::filesystem::path& file) : database(file, SQLITE_OPEN_READWRITE) {
-  database.Execute("PRAGMA foreign_keys=ON");
+DirectoryLoader::Impl::Impl(const std::filesystem::path& file) : connection(OpenDirectoryFile(file)) {
+  Migrate(database, Migrations());
   database.Execute(kCache);
   transaction.emplace(database);
   index.AddStoredUsers(database);
