@@ -1,3 +1,4 @@
+#include "backend/directory/SqliteDirectory.h"
 #include "tests/corvane/CorvaneFixture.h"
 
 namespace mindloft::test {
@@ -12,7 +13,7 @@ class ConfigDocumentTest : public CorvaneFixture {
 
   /// Stores a document past the object that is tested, as another program might.
   void StoreText(const std::string& xml) {
-    const auto directory = Corvane::EmbeddedDirectoryProvider(file_)({.connectMode = 1});
+    const auto directory = SqliteDirectory::Open(file_);
     const auto session = directory->Login(kAdministrator, kPassword);
     auto configuration = directory->LoadUserConfiguration(session);
     configuration.xml = xml;
@@ -57,7 +58,7 @@ TEST_F(ConfigDocumentTest, RefusedChangesLeaveTheStoredTextAlone) {
   StoreText(damaged);
   EXPECT_EQ(NumberOf([&] { config_->SetValue(kModify, "x"); }), ErrorNumber::ConfigurationDamaged);
   EXPECT_EQ(NumberOf([&] { config_->Select(kModify, "x"); }), ErrorNumber::ConfigurationDamaged);
-  const auto directory = Corvane::EmbeddedDirectoryProvider(file_)({.connectMode = 1});
+  const auto directory = SqliteDirectory::Open(file_);
   const auto session = directory->Login(kAdministrator, kPassword);
   EXPECT_EQ(directory->LoadUserConfiguration(session).xml, damaged);
 
