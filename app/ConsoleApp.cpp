@@ -71,6 +71,7 @@ bool ConsoleApp::OnInit() try {
   SetHelpAction(ShowHelp);
   auto& services = GetApplicationServices();
   services.showHelp = ShowHelp;
+  services.getWorkingFolder = GetWorkingFolder;
   services.activeMindloft = platform::ActiveMindloft;
   return true;
 } catch (...) {

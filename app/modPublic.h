@@ -13,4 +13,8 @@ void Main(const wxString& commandLine, const StartServices& services);
 /// Opens the help file, whose name is text 49063.
 void ShowHelp();
 
+/// The user's working folder. When there is none and `ask` is true, the user may choose one, which is then
+/// kept. Empty: none.
+wxString GetWorkingFolder(bool ask);
+
 }  // namespace mindloft
