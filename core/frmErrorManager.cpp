@@ -22,6 +22,10 @@ constexpr int moreInformationKey = 68;  // "D"
 /// Captions of cmdMoreInfomation while the details are hidden and while they are shown.
 constexpr const char* captionShow = "cmdMoreInfomation";
 constexpr const char* captionHide = "cmdMoreInfomation.hide";
+/// The width of the texts, in dialog units; a longer line is wrapped.
+constexpr int textWidth = 230;
+/// Characters of the headline that are shown; the details hold all of it.
+constexpr std::size_t longestHeadline = 600;
 /// Lines of the message that are shown before it scrolls.
 constexpr int mostMessageLines = 10;
 
@@ -40,6 +44,26 @@ const std::map<int, Picture>& Pictures() {
       {static_cast<int>(MessageKind::Information), {"Information", wxART_INFORMATION}},
   };
   return pictures;
+}
+
+/// The text with a blank wherever a word is wider than `width` pixels: the toolkit wraps at blanks only, and
+/// a name may be one long word.
+wxString WithBreakableWords(const wxWindow& window, const wxString& text, int width) {
+  wxString breakable;
+  wxString word;
+  for (wxUniChar character : text) {
+    bool blank = character == ' ' || character == '\n';
+    if (!blank && window.GetTextExtent(word + character).x > width) {
+      breakable += word + " ";
+      word.clear();
+    }
+    word += character;
+    if (blank) {
+      breakable += word;
+      word.clear();
+    }
+  }
+  return breakable + word;
 }
 
 /// The form in which the user is at work: a modal dialog without an owner would fall behind it.
@@ -122,27 +146,31 @@ void frmErrorManager::SetMoreInformationCaption() {
 }
 
 void frmErrorManager::WrapHeadline() {
-  // Wrapping changes the label: it starts from the whole text each time. "&" stands for itself here.
-  lblHeadline->SetLabelText(headline_);
-  lblHeadline->Wrap(txtMessage->GetMinSize().x);
+  const int width = ConvertDialogToPixels(wxSize(textWidth, 0)).x;
+  wxString text = headline_;
+  if (text.length() > longestHeadline) text = text.Left(longestHeadline) + wxUniChar(0x2026);
+  // Wrapping changes the label, so it starts from the whole text each time. "&" stands for itself here.
+  lblHeadline->SetLabelText(WithBreakableWords(*lblHeadline, text, width));
+  lblHeadline->Wrap(width);
 }
 
 void frmErrorManager::SetMessageHeight() try {
   WrapHeadline();
-  const wxSize given = txtMessage->GetMinSize();
+  const int width = ConvertDialogToPixels(wxSize(textWidth, 0)).x;
   int lines = 0;
   wxArrayString paragraphs = wxSplit(txtMessage->GetValue(), '\n', '\0');
   for (const auto& paragraph : paragraphs) {
     // A little is taken off for the margins of the box; a word that moves to the next line leaves a gap.
-    int usable = std::max(1, given.x - 4 * txtMessage->GetCharWidth());
+    int usable = std::max(1, width - 4 * txtMessage->GetCharWidth());
     lines += 1 + txtMessage->GetTextExtent(paragraph).x / usable;
   }
   int height = (std::min(lines, mostMessageLines) + 1) * txtMessage->GetCharHeight();
-  txtMessage->SetMinSize(wxSize(given.x, height));
+  txtMessage->SetMinSize(wxSize(width, height));
   SetMinSize(wxDefaultSize);
-  Layout();
+  // Growing first: what is laid out in too little space would be squeezed.
   Fit();
   SetMinSize(GetSize());
+  Layout();
 } catch (...) {
   ReportOnly(formName, "SetMessageHeight");
 }

@@ -126,7 +126,14 @@ wxString Resource::GetString(int number) const {
 }
 
 wxString Resource::GetFormatString(int number, const std::vector<wxString>& parameters) const {
-  return FillIn(GetString(number), parameters);
+  if (!IsRightToLeft()) return FillIn(GetString(number), parameters);
+  // A name or a time must not be torn apart by the direction of the words around it: each stands in a first
+  // strong isolate of its own.
+  std::vector<wxString> isolated;
+  for (const auto& parameter : parameters) {
+    isolated.push_back(wxString(wxUniChar(0x2068)) + parameter + wxUniChar(0x2069));
+  }
+  return FillIn(GetString(number), isolated);
 }
 
 std::optional<LanguageFile::Caption> Resource::CaptionOf(const wxString& form,

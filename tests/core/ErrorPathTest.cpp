@@ -17,7 +17,8 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-void Store(const Error& error) try { throw error; } catch (...) {
+void Store(const Error& error) try {
+  throw Error(error.Number(), error.Description(), error.Parameters());  // it arises here } catch (...) {
   Raise("Directory", "Store");
 }
 
