@@ -6,11 +6,11 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 #include "backend/errors/Error.h"
-#include "platform/DurableRename.h"
 #include "platform/linux/Descriptor.h"
 
 namespace mindloft::platform {
@@ -79,7 +79,7 @@ void ReplaceWholeFile(const std::filesystem::path& file, std::string_view conten
   }
   // Without it a crash could leave an empty file under the name.
   if (fsync(descriptor.Get()) != 0) Fail("writing", target);
-  DurableRename(name, target, true);
+  if (rename(name.c_str(), target.c_str()) != 0) Fail("replacing", target);
   draft.Keep();
 }
 

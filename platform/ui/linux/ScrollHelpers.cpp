@@ -1,5 +1,6 @@
 #include "platform/ui/ScrollHelpers.h"
 
+#include <wx/listctrl.h>
 #include <wx/scrolwin.h>
 #include <wx/treectrl.h>
 #include <wx/window.h>
@@ -31,6 +32,14 @@ int UnitsPerLine(wxWindow* part) {
   return std::max(1, (line.height + yUnit / 2) / yUnit);
 }
 
+/// The toolkit's list keeps its first visible row in mind and learns of no scrolling but its own.
+void ScrollList(wxListCtrl& list, long lines) {
+  wxRect row;
+  if (list.GetItemCount() == 0 || !list.GetItemRect(0, row)) return;
+  lines = std::max(lines, -list.GetTopItem());
+  list.ScrollList(0, static_cast<int>(lines) * row.height);
+}
+
 void Collect(const wxWindow* parent, std::vector<WindowHandle>& windows) {
   for (const auto* child : parent->GetChildren()) {
     windows.push_back(HandleOf(child));
@@ -48,6 +57,7 @@ bool HasScrollBar(const wxWindow* window) {
 void ScrollToPos(wxWindow* window, int position) {
   auto* part = ScrolledPart(window);
   if (!HasScrollBar(part)) return;
+  if (auto* list = dynamic_cast<wxListCtrl*>(window)) return ScrollList(*list, position - list->GetTopItem());
   position = std::clamp(position, 0, part->GetScrollRange(wxVERTICAL) - part->GetScrollThumb(wxVERTICAL));
   if (auto* scrolled = dynamic_cast<wxScrollHelperBase*>(part)) {
     scrolled->Scroll(-1, position);
@@ -59,6 +69,7 @@ void ScrollToPos(wxWindow* window, int position) {
 void ScrollToLine(wxWindow* window, int lines) {
   auto* part = ScrolledPart(window);
   if (!part) return;
+  if (auto* list = dynamic_cast<wxListCtrl*>(window)) return ScrollList(*list, lines);
   if (dynamic_cast<wxScrollHelperBase*>(part)) {
     ScrollToPos(part, part->GetScrollPos(wxVERTICAL) + lines * UnitsPerLine(part));
   } else {

@@ -1,0 +1,44 @@
+#include <gmock/gmock.h>
+#include <wx/app.h>
+#include <wx/init.h>
+
+#include "tests/platform/Child.h"
+
+namespace mindloft::test {
+namespace {
+
+/// Runs the tests, or a child's task, inside the toolkit.
+class PlatformTestApp : public wxApp {
+ public:
+  bool OnInit() override {
+    SetExitOnFrameDelete(false);
+    wxSetAssertHandler([](const wxString& file, int line, const wxString&, const wxString& condition,
+                          const wxString& message) {
+      ADD_FAILURE_AT(file.utf8_str(), line)
+          << "assertion of the toolkit: " << condition.utf8_str() << " " << message.utf8_str();
+    });
+    return true;
+  }
+  int OnRun() override {
+    if (auto status = RunAsChild(argc, argv)) return *status;
+    CallAfter([this] {
+      result_ = RUN_ALL_TESTS();
+      ExitMainLoop();
+    });
+    wxApp::OnRun();
+    return result_;
+  }
+
+ private:
+  int result_ = 1;
+};
+
+}  // namespace
+}  // namespace mindloft::test
+
+wxIMPLEMENT_APP_NO_MAIN(mindloft::test::PlatformTestApp);
+
+int main(int argc, char** argv) {
+  testing::InitGoogleMock(&argc, argv);
+  return wxEntry(argc, argv);
+}
