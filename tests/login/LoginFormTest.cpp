@@ -1,0 +1,197 @@
+#include <gmock/gmock.h>
+#include <wx/choice.h>
+#include <wx/textctrl.h>
+
+#include <fstream>
+
+#include "backend/corvane/LocalDirectory.h"
+#include "backend/tessaline/Text.h"
+#include "backend/tessaline/login/LoginDialog.h"
+#include "platform/Clock.h"
+#include "tests/support/gui/ModalDriver.h"
+#include "tests/support/gui/PrivateServices.h"
+#include "tests/support/gui/WaitFor.h"
+
+namespace mindloft::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr char kPassword[] = "correct horse battery";
+
+class LoginFormTest : public PrivateServices {
+ protected:
+  void SetUp() override {
+    PrivateServices::SetUp();
+    SetApplication(std::make_unique<Corvane::Application>(Corvane::EmbeddedDirectoryProvider(file_)));
+  }
+  void TearDown() override {
+    SetApplication(nullptr);
+    PrivateServices::TearDown();
+  }
+
+  void MakeDirectory() { Corvane::CreateLocalDirectory(file_, "Root", kPassword); }
+
+  /// Shows the dialog to the users in turn; it has to be made again for each but the first.
+  bool Login(std::vector<ModalDriver::Script> scripts) {
+    ModalDriver modal;
+    for (auto& script : scripts) modal.ExpectForm("frmLogin", std::move(script));
+    return Tessaline::LoginDialog(file_).Login("Console");
+  }
+
+  static void Enter(User& user, const wxString& name, const wxString& password) {
+    user.Clear("txtName");
+    user.Type("txtName", name);
+    user.Clear("txtPassword");
+    user.Type("txtPassword", password);
+  }
+
+  const std::filesystem::path file_ = folder_ / "deep" / "er" / "mine.directory";
+};
+
+TEST_F(LoginFormTest, TheCaretIsInTheNameTabLeadsToThePasswordAndEnterLogsIn) {
+  MakeDirectory();
+  EXPECT_TRUE(Login({[&](User& user) {
+    WaitFor([&] { return user.Find("txtName").HasFocus(); }, "the caret in the name");
+    EXPECT_THAT(ToUtf8(user.Title()), HasSubstr("Console"));
+    EXPECT_THAT(ToUtf8(user.Read("txtWhere")), HasSubstr(ToUtf8(ToWx(file_.filename().string()))));
+    user.Type("txtName", " rOOT ");
+    user.Find("txtName").Navigate();
+    WaitFor([&] { return user.Find("txtPassword").HasFocus(); }, "the caret in the password");
+    user.Type("txtPassword", kPassword);
+    user.Press(WXK_RETURN);
+  }}));
+  EXPECT_EQ(GetConnection()->CurrentUser()->Name(), "Root");
+  EXPECT_THAT(LoggedText(), Not(HasSubstr(kPassword)));
+}
+
+TEST_F(LoginFormTest, AFailureDoesNotTellWhetherTheNameExistsAndEscCancels) {
+  MakeDirectory();
+  EXPECT_FALSE(Login({[](User& user) {
+    std::vector<wxString> told;
+    for (const char* name : {"Root", "nobody"}) {
+      Enter(user, name, "wrong password");
+      user.Click("cmdOK");
+      told.push_back(user.Read("lblMessage"));
+      EXPECT_TRUE(user.IsShown("lblMessage"));
+      EXPECT_EQ(user.Read("txtPassword"), "");
+      WaitFor([&] { return user.Find("txtPassword").HasFocus(); }, "the caret in the password");
+    }
+    EXPECT_EQ(told[0], told[1]);
+    user.Clear("txtName");
+    user.Type("txtName", "  ");
+    user.Click("cmdOK");
+    EXPECT_EQ(user.Read("lblMessage"), GetResource().GetString(61209));
+    user.Press(WXK_ESCAPE);
+  }}));
+  EXPECT_FALSE(GetConnection()->IsLoggedIn());
+  EXPECT_THAT(LoggedText(), Not(HasSubstr("wrong password")));
+}
+
+TEST_F(LoginFormTest, RepeatedFailuresAreSlowedByACountdownThatKeepsThePassword) {
+  MakeDirectory();
+  platform::FakeClock clock(1'800'000'000'000);
+  EXPECT_TRUE(Login({[&](User& user) {
+    for (int attempt = 0; user.IsEnabled("cmdOK") && attempt < 20; ++attempt) {
+      Enter(user, "Root", "wrong password");
+      user.Click("cmdOK");
+    }
+    ASSERT_FALSE(user.IsEnabled("cmdOK"));
+    user.Clear("txtPassword");
+    user.Type("txtPassword", kPassword);
+    user.Press(WXK_RETURN);
+    EXPECT_FALSE(GetConnection()->IsLoggedIn());
+    const auto before = user.Read("lblMessage");
+    clock.Advance(1000);
+    const auto told = [&] { return user.Read("lblMessage") != before; };
+    WaitFor(told, "the next second of the countdown");
+    clock.Advance(3'600'000);
+    WaitFor([&] { return user.IsEnabled("cmdOK"); }, "the end of the delay");
+    EXPECT_FALSE(user.IsShown("lblMessage"));
+    EXPECT_EQ(user.Read("txtPassword"), kPassword);
+    user.Click("cmdOK");
+  }}));
+}
+
+TEST_F(LoginFormTest, AMissingDirectoryIsOfferedToBeCreated) {
+  ModalDriver modal;
+  modal.ExpectForm("frmLogin", [](User& user) {
+    EXPECT_FALSE(user.IsEnabled("cmdOK"));
+    EXPECT_TRUE(user.IsShown("lblMessage"));
+    user.Type("txtServer", "elsewhere");
+    EXPECT_FALSE(user.IsShown("cmdCreate"));
+    EXPECT_TRUE(user.IsEnabled("cmdOK"));
+    user.Clear("txtServer");
+    user.Type("txtServer", " (LOCAL) ");
+    EXPECT_TRUE(user.IsShown("cmdCreate"));
+    user.Click("cmdCreate");
+  });
+  modal.ExpectForm("frmCreateDirectory", [](User& user) {
+    const auto hints = [&](const char* name, const wxString& text, int number) {
+      user.Clear(name);
+      user.Type(name, text);
+      EXPECT_EQ(user.IsEnabled("cmdOK"), number == 61224) << name;
+      EXPECT_EQ(user.Read("lblHint").BeforeFirst('('),
+                GetResource().GetFormatString(number, {"12", ""}).BeforeFirst('('));
+    };
+    hints("txtName", "  ", 61221);
+    hints("txtName", "Ana", 61222);
+    hints("txtPassword", "twelve char", 61222);
+    hints("txtPassword", "twelve chars", 61223);
+    hints("txtRepeat", "twelve char", 61223);
+    hints("txtRepeat", "twelve chars", 61224);
+    user.Click("cmdOK");
+  });
+  ASSERT_TRUE(Tessaline::LoginDialog(file_).Login("Console"));
+  EXPECT_EQ(GetConnection()->CurrentUser()->Name(), "Ana");
+  EXPECT_THAT(LoggedText(), Not(HasSubstr("twelve")));
+}
+
+TEST_F(LoginFormTest, WhatIsWrongWithTheDirectoryOrTheServerIsToldAndCanBeMended) {
+  std::filesystem::create_directories(file_.parent_path());
+  const auto write = [&](std::string_view bytes) { std::ofstream(file_, std::ios::binary) << bytes; };
+  write("this is no directory, and longer than a header would have to be: " + std::string(200, 'x'));
+  EXPECT_TRUE(Login({[&](User& user) {
+    const auto fails = [&](const char* server, int number, const char* part) {
+      user.Clear("txtServer");
+      user.Type("txtServer", server);
+      Enter(user, "Root", kPassword);
+      user.Click("cmdOK");
+      wxString told = user.Read("lblMessage");
+      told.Replace("\n", " ");
+      EXPECT_EQ(told.BeforeFirst(' '), GetResource().GetString(number).BeforeFirst(' ')) << server;
+      EXPECT_THAT(ToUtf8(told), HasSubstr(part));
+      EXPECT_EQ(user.Read("txtPassword"), kPassword);
+    };
+    fails("", 60003, "");
+    fails("far-away", 60008, "far-away");
+    fails("HTTP://web.example/", 60008, "web.example");
+    std::filesystem::remove(file_);
+    MakeDirectory();
+    user.Clear("txtServer");
+    user.Click("cmdOK");
+  }}));
+}
+
+TEST_F(LoginFormTest, TheLanguageChosenIsKeptOnlyWhenTheLoginSucceeds) {
+  MakeDirectory();
+  const auto chooseArabic = [](User& user) {
+    user.Type("txtName", "Root");
+    user.Choose("cboLanguage", GetResource().LanguageName(1025));
+  };
+  EXPECT_FALSE(Login({chooseArabic, [](User& user) {
+                        EXPECT_EQ(user.Form().GetLayoutDirection(), wxLayout_RightToLeft);
+                        EXPECT_EQ(user.Read("txtName"), "Root");
+                        user.Press(WXK_ESCAPE);
+                      }}));
+  EXPECT_EQ(GetResource().CurrentLanguage(), 1033);
+  EXPECT_TRUE(Login({chooseArabic, [](User& user) {
+                       Enter(user, "Root", kPassword);
+                       user.Click("cmdOK");
+                     }}));
+  EXPECT_EQ(GetResource().GetSetting(Tessaline::Setting::CurrentLanguage), "1025");
+}
+
+}  // namespace
+}  // namespace mindloft::test
