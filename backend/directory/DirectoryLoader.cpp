@@ -7,6 +7,7 @@
 #include "backend/directory/file/DirectoryFile.h"
 #include "backend/directory/file/Schema.h"
 #include "backend/directory/index/IndexImage.h"
+#include "backend/directory/index/Packed.h"
 #include "backend/directory/index/UserIndex.h"
 #include "backend/directory/store/GroupStore.h"
 #include "backend/directory/store/NameKeys.h"
@@ -26,8 +27,21 @@ struct DirectoryLoader::Impl {
     insert.Run();
     return database.LastInsertId();
   }
-  void InsertPair(const char* sql, ObjectId owner, ObjectId user) {
-    database.Prepare(sql)->BindAll(owner, user).Run();
+  /// The engine's own checks of references cost as much as the rows; bits in memory tell the same.
+  void InsertMember(sqlite::Statement& insert, const IdSet& owners, ObjectId owner, ObjectId user) {
+    Require(owners, owner);
+    Require(userIds, user);
+    insert.BindAll(owner, user).Run();
+    ++members;
+  }
+  static void Require(const IdSet& known, ObjectId id) {
+    if (!known.Has(PackId(id))) throw Error(ErrorNumber::ObjectNotFound, "object " + std::to_string(id));
+  }
+  IdSet Ids(const char* select) {
+    IdSet ids;
+    auto row = database.Prepare(select);
+    while (row->Step()) ids.Add(PackId(row->Int(0)));
+    return ids;
   }
 
   std::unique_ptr<sqlite::Database> connection;
@@ -38,14 +52,24 @@ struct DirectoryLoader::Impl {
   IndexImage index;
   std::optional<sqlite::Transaction> transaction;
   std::optional<sqlite::Statement> insertUser;
+  IdSet userIds, domainIds, groupIds, roleIds, styleIds;
+  sqlite::Statement insertDomainUser{database.Handle(), "INSERT INTO domain_user(domain,user) VALUES(?,?)"};
+  sqlite::Statement insertGroupMember{database.Handle(), "INSERT INTO group_member(grp,user) VALUES(?,?)"};
+  sqlite::Statement insertRoleMember{database.Handle(), "INSERT INTO role_member(role,user) VALUES(?,?)"};
   std::int64_t users = 0, domains = 0, ownGroups = 0, members = 0;
 };
 
 DirectoryLoader::Impl::Impl(const std::filesystem::path& file) : connection(OpenDirectoryFile(file)) {
   Migrate(database, Migrations());
   database.Execute(kCache);
+  database.Execute("PRAGMA foreign_keys=OFF");
   transaction.emplace(database);
   index.AddStoredUsers(database);
+  userIds = Ids("SELECT id FROM user");
+  domainIds = Ids("SELECT id FROM domain");
+  groupIds = Ids("SELECT id FROM grp");
+  roleIds = Ids("SELECT id FROM role");
+  styleIds = Ids("SELECT id FROM style");
   insertUser.emplace(
       database.Handle(),
       "INSERT INTO user(version,name,name_key,full_name,department,email,telephone,description,"
@@ -70,39 +94,42 @@ ObjectId DirectoryLoader::AddUser(const UserRecord& user) {
     throw;
   }
   impl_->index.Add(id, folded);
+  impl_->userIds.Add(PackId(id));
   ++impl_->users;
   return id;
 }
 
 ObjectId DirectoryLoader::AddDomain(const DomainRecord& domain) {
+  if (domain.style != 0) impl_->Require(impl_->styleIds, domain.style);
   auto insert = impl_->database.Prepare(
       "INSERT INTO domain(version,name,name_key,description,style,disabled) VALUES(1,?,?,?,nullif(?,0),?)");
   insert->BindAll(domain.name, FreeNameKey(impl_->database, "domain", domain.name), domain.description,
                   domain.style, std::int64_t{domain.disabled});
   ObjectId id = impl_->Insert(*insert);
-  impl_->groups.Insert(NewAdministratorsGroup(id));
+  impl_->domainIds.Add(PackId(id));
+  impl_->groupIds.Add(PackId(impl_->groups.Insert(NewAdministratorsGroup(id))));
   ++impl_->domains;
   return id;
 }
 
 ObjectId DirectoryLoader::AddGroup(const GroupRecord& group) {
+  impl_->Require(impl_->domainIds, group.domain);
+  ObjectId id = impl_->groups.Insert(group);
+  impl_->groupIds.Add(PackId(id));
   ++impl_->ownGroups;
-  return impl_->groups.Insert(group);
+  return id;
 }
 
 void DirectoryLoader::AddDomainUser(ObjectId domain, ObjectId user) {
-  impl_->InsertPair("INSERT INTO domain_user(domain,user) VALUES(?,?)", domain, user);
-  ++impl_->members;
+  impl_->InsertMember(impl_->insertDomainUser, impl_->domainIds, domain, user);
 }
 
 void DirectoryLoader::AddGroupMember(ObjectId group, ObjectId user) {
-  impl_->InsertPair("INSERT INTO group_member(grp,user) VALUES(?,?)", group, user);
-  ++impl_->members;
+  impl_->InsertMember(impl_->insertGroupMember, impl_->groupIds, group, user);
 }
 
 void DirectoryLoader::AddRoleMember(ObjectId role, ObjectId user) {
-  impl_->InsertPair("INSERT INTO role_member(role,user) VALUES(?,?)", role, user);
-  ++impl_->members;
+  impl_->InsertMember(impl_->insertRoleMember, impl_->roleIds, role, user);
 }
 
 void DirectoryLoader::Finish() {

@@ -90,7 +90,18 @@ TEST_F(LoaderTest, RefusesNamesThatExistAndObjectsThatDoNot) {
     EXPECT_EQ(error.Number(), ErrorNumber::NameExists);
     EXPECT_EQ(error.Parameters(), std::vector<std::string>{"ｚOE"});
   }
+  GroupRecord group;
+  group.name = "Group";
+  group.domain = 77;
+  EXPECT_THROW(loader.AddGroup(group), Error);
+  DomainRecord domain;
+  domain.name = "Domain";
+  domain.style = 77;
+  EXPECT_THROW(loader.AddDomain(domain), Error);
   EXPECT_THROW(loader.AddDomainUser(77, 1), Error);
+  EXPECT_THROW(loader.AddGroupMember(77, 1), Error);
+  EXPECT_THROW(loader.AddRoleMember(1, 77), Error);
+  EXPECT_THROW(loader.AddRoleMember(1, -1), Error);
   // The refused rows leave no trace; the others count.
   loader.AddUser(User("other"));
   loader.Finish();
