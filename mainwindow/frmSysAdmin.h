@@ -14,6 +14,7 @@ namespace mindloft {
 
 class CommandSet;
 class ctExplorer;
+struct DirectoryKind;
 class DirectoryLists;
 class DirectoryTree;
 class DomainContexts;
@@ -70,6 +71,10 @@ class frmSysAdmin : public wxFrame {
   void UpdateCommands();
   /// Reads domains, tree and list anew; expansion and selection stay.
   void RefreshAll();
+  /// Shows who is logged in in the status bar.
+  void ShowUser();
+  /// Full screen keeps menus and bars; the position from before it is the one that is remembered.
+  void ToggleFullScreen();
   /// Opens the selected row or node: its properties when they can be shown, else its place in the tree.
   void OpenSelected();
 
@@ -88,7 +93,15 @@ class frmSysAdmin : public wxFrame {
   void Form_Unload(wxCloseEvent& event);
   void Timer1_Timer();
   void ConnectExplorer();
-  void ListChanged();
+  void ConnectCommands();
+  /// Fills the tree from the domains read last.
+  void BuildTree();
+  /// Shows everything in the direction and language of now, selection and list as they were.
+  void RebuildArea();
+  void ReloadList();
+  void ShowListState();
+  void RunCommand(const wxString& name);
+  void ShowContextMenu(const DirectoryKind* listed, wxPoint screen, bool ofList);
 
   std::shared_ptr<Corvane::Connection> connection_;
   std::unique_ptr<ObjectKindRegistry> kinds_;
@@ -105,6 +118,10 @@ class frmSysAdmin : public wxFrame {
   Refresh::Subscription notify_, notifyLanguage_;
   wxTimer timer1_;
   std::int32_t pendingNodeIndex_ = -1;
+  wxString selectedNodeKey_;  ///< of the tree node whose list is shown
+  wxString lastDomainKey_;    ///< of the domain node selected last
+  std::int64_t selectedListIndex_ = -1;
+  bool busy_ = false;  ///< tree or list are being rebuilt: selections mean nothing
 };
 
 }  // namespace mindloft

@@ -1,0 +1,21 @@
+#include "mainwindow/DomainRows.h"
+
+#include "backend/tessaline/Services.h"
+#include "mainwindow/Images.h"
+#include "mainwindow/Texts.h"
+
+namespace mindloft {
+
+DomainRows::DomainRows(Corvane::DomainView view)
+    : RecordRows(std::move(view), {Order::Name, Order::Description, std::nullopt}) {}
+
+std::vector<wxString> DomainRows::Fields(const DomainRecord& record) const {
+  return {ToWx(record.name), ToWx(record.description),
+          GetResource().GetString(record.disabled ? texts::kDomainDisabled : texts::kDomainEnabled)};
+}
+
+int DomainRows::Image(const DomainRecord& record) const {
+  return record.disabled ? DisabledDomainImage : DomainImage;
+}
+
+}  // namespace mindloft

@@ -1,0 +1,18 @@
+#include "mainwindow/GroupRows.h"
+
+#include "mainwindow/Images.h"
+
+namespace mindloft {
+
+GroupRows::GroupRows(Corvane::GroupView view)
+    : RecordRows(std::move(view), {Order::Name, Order::Description}) {}
+
+std::vector<wxString> GroupRows::Fields(const GroupRecord& record) const {
+  return {ToWx(record.name), ToWx(record.description)};
+}
+
+int GroupRows::Image(const GroupRecord&) const {
+  return GroupImage;
+}
+
+}  // namespace mindloft

@@ -1,0 +1,71 @@
+#include "mainwindow/MainStatusBar.h"
+
+#include <wx/frame.h>
+#include <wx/statusbr.h>
+
+#include <string>
+
+#include "backend/tessaline/Services.h"
+#include "mainwindow/Texts.h"
+
+namespace mindloft {
+
+namespace {
+
+enum Field : int { UserField, CountField, SelectedField, FieldCount };
+
+}  // namespace
+
+void MainStatusBar::Build() {
+  wxString kept[FieldCount];
+  const bool shown = !frame_.GetStatusBar() || IsShown();
+  if (auto* old = frame_.GetStatusBar()) {
+    for (int field = 0; field < FieldCount; ++field) kept[field] = old->GetStatusText(field);
+    frame_.SetStatusBar(nullptr);
+    old->Destroy();
+  }
+  auto* bar = frame_.CreateStatusBar(FieldCount, wxSTB_DEFAULT_STYLE, wxID_ANY, "sbrMain");
+  const int widths[] = {-3, -2, -2};
+  bar->SetStatusWidths(FieldCount, widths);
+  // Menu tips would cover who is logged in.
+  frame_.SetStatusBarPane(-1);
+  for (int field = 0; field < FieldCount; ++field) bar->SetStatusText(kept[field], field);
+  if (!shown) Show(false);
+}
+
+void MainStatusBar::ShowUser(const wxString& name) {
+  frame_.SetStatusText(GetResource().GetString(texts::kLoggedInAs) + " " + name, UserField);
+}
+
+void MainStatusBar::ShowCounts(std::int64_t shown, std::int64_t all, bool filtered, std::int64_t selected) {
+  const auto& resource = GetResource();
+  frame_.SetStatusText(filtered
+                           ? resource.GetFormatString(texts::kCountFiltered, {Grouped(shown), Grouped(all)})
+                           : resource.GetFormatString(texts::kCount, {Grouped(shown)}),
+                       CountField);
+  frame_.SetStatusText(
+      selected > 0 ? resource.GetFormatString(texts::kSelected, {Grouped(selected)}) : wxString(),
+      SelectedField);
+}
+
+bool MainStatusBar::IsShown() const {
+  return frame_.GetStatusBar() && frame_.GetStatusBar()->IsShown();
+}
+
+void MainStatusBar::Show(bool show) {
+  if (auto* bar = frame_.GetStatusBar()) bar->Show(show);
+  frame_.SendSizeEvent();
+}
+
+wxString MainStatusBar::Grouped(std::int64_t number) {
+  const wxString separator = GetResource().GetString(texts::kThousandsSeparator);
+  const std::string digits = std::to_string(number);
+  wxString grouped;
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    if (i > 0 && digits[i - 1] != '-' && (digits.size() - i) % 3 == 0) grouped += separator;
+    grouped += digits[i];
+  }
+  return grouped;
+}
+
+}  // namespace mindloft

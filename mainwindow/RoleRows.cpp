@@ -1,0 +1,17 @@
+#include "mainwindow/RoleRows.h"
+
+#include "mainwindow/Images.h"
+
+namespace mindloft {
+
+RoleRows::RoleRows(Corvane::RoleView view) : RecordRows(std::move(view), {Order::Name, std::nullopt}) {}
+
+std::vector<wxString> RoleRows::Fields(const RoleRecord& record) const {
+  return {ToWx(record.name), ToWx(record.privilegeText)};
+}
+
+int RoleRows::Image(const RoleRecord&) const {
+  return RoleImage;
+}
+
+}  // namespace mindloft

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "mainwindow/RecordRows.h"
+
+namespace mindloft {
+
+/// Roles: name, privileges in words.
+class RoleRows : public RecordRows<RoleRecord> {
+ public:
+  explicit RoleRows(Corvane::RoleView view);
+
+ protected:
+  std::vector<wxString> Fields(const RoleRecord& record) const override;
+  int Image(const RoleRecord& record) const override;
+};
+
+}  // namespace mindloft

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "mainwindow/RecordRows.h"
+
+namespace mindloft {
+
+/// Users, of the whole directory or of one collection: name, full name, description.
+class UserRows : public RecordRows<UserRecord> {
+ public:
+  explicit UserRows(Corvane::UserView view);
+
+ protected:
+  std::vector<wxString> Fields(const UserRecord& record) const override;
+  int Image(const UserRecord& record) const override;
+};
+
+}  // namespace mindloft
