@@ -17,8 +17,9 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-void Store(const Error& error) try {
-  throw Error(error.Number(), error.Description(), error.Parameters());  // it arises here } catch (...) {
+void Store(const Error& like) try {
+  throw Error(like.Number(), like.Description(), like.Parameters());
+} catch (...) {
   Raise("Directory", "Store");
 }
 

@@ -159,10 +159,10 @@ TEST_F(ResourceTest, ParametersFillTheirPlaces) {
   UseFolder(9);
   EXPECT_EQ(GetResource().GetFormatString(1, {"%2", "b"}), ToWx("\u2068b\u2069 of \u2068%2\u2069, 5% %3 %"))
       << "isolated among words that run leftwards";
+  EXPECT_EQ(GetResource().GetFormatString(1, {}), "%2 of %1, 5% %3 %");
   EXPECT_TRUE(GetResource().SwitchLanguage(1033));
   EXPECT_EQ(GetResource().GetFormatString(60048, {"%1&"}),
             "\"%1&\" belongs to the system and cannot be deleted.");
-  EXPECT_EQ(GetResource().GetFormatString(1, {}), "%2 of %1, 5% %3 %");
 }
 
 TEST_F(ResourceTest, SettingsAreTheUsersElseTheMachines) {
