@@ -11,10 +11,10 @@ namespace mindloft {
 
 namespace {
 
-/// The name that the toolkit gives the window of the rows where it draws the list itself.
+/// Where the toolkit draws the list itself, the list holds a window for the headings and one for the rows.
 wxWindow* FindRowsWindow(wxListCtrl* list) {
   for (wxWindow* child : list->GetChildren())
-    if (child->GetName() == "listctrlmainwindow") return child;
+    if (child->GetName() != "wxlistctrlcolumntitles") return child;
   return list;
 }
 

@@ -10,12 +10,15 @@ void SelectionKeys::Update(const SelectionModel& selection, RowCache& cache, Exp
   anything_ = selected > 0;
   everything_ = selection.AllSelected();
   complement_ = !everything_ && selected > kLimit && others <= kLimit;
-  overflow_ = !everything_ && !complement_ && selected > kLimit;
-  if (everything_ || overflow_)
+  overflow_ = !complement_ && selected > kLimit;
+  if (overflow_)
     keys_.clear();
   else
     Track(complement_ ? selection.Selected().Complement(selection.RowCount()) : selection.Selected(), cache,
           rows);
+
+  // A source that fails, or rows that have vanished, leave gaps.
+  complete_ = !overflow_ && !complement_ && static_cast<std::int64_t>(keys_.size()) == selected;
 
   focus_ = selection.Focus();
   const ExplorerRow* focused = cache.Find(focus_);

@@ -32,7 +32,7 @@ class SelectionKeys {
   bool Restore(SelectionModel& selection, ExplorerRows& rows, std::int64_t count, Change change) const;
 
   /// Whether `Rows` knows all selected rows.
-  bool Complete() const { return !everything_ && !overflow_ && !complement_; }
+  bool Complete() const { return complete_; }
   /// Selected rows and their keys, in list order.
   const std::vector<KeyedRow>& Rows() const { return keys_; }
 
@@ -44,6 +44,7 @@ class SelectionKeys {
   bool everything_ = false;
   bool overflow_ = false;
   bool anything_ = false;
+  bool complete_ = true;
   std::int64_t focus_ = -1;
   wxString focusKey_;
 };
