@@ -93,6 +93,8 @@ class Filler {
     const auto domain = loader_.AddDomain(SampleDomain(number));
     const auto members = DomainUsers();
     for (const auto user : members) loader_.AddDomainUser(domain, user);
+    // Each domain has its own first user for an administrator.
+    loader_.AddGroupMember(loader_.AdministratorsGroup(domain), members.front());
     for (std::int64_t i = 0; i < options_.groups; ++i) {
       const auto group = loader_.AddGroup(SampleGroup(domain, i));
       // The further a group stands down the list, the fewer members it has.

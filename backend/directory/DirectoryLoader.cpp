@@ -112,6 +112,13 @@ ObjectId DirectoryLoader::AddDomain(const DomainRecord& domain) {
   return id;
 }
 
+ObjectId DirectoryLoader::AdministratorsGroup(ObjectId domain) {
+  auto find = impl_->database.Prepare("SELECT id FROM grp WHERE domain=? AND kind=?");
+  find->BindAll(domain, std::int64_t{GroupKind::AdministratorsGroup});
+  if (!find->Step()) throw Error(ErrorNumber::ObjectNotFound);
+  return find->Int(0);
+}
+
 ObjectId DirectoryLoader::AddGroup(const GroupRecord& group) {
   impl_->Require(impl_->domainIds, group.domain);
   ObjectId id = impl_->groups.Insert(group);

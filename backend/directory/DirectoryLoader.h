@@ -21,6 +21,8 @@ class DirectoryLoader {
   ObjectId AddUser(const UserRecord& user);
   /// With its administrators group.
   ObjectId AddDomain(const DomainRecord& domain);
+  /// The administrators group that a domain was added with.
+  ObjectId AdministratorsGroup(ObjectId domain);
   ObjectId AddGroup(const GroupRecord& group);
   void AddDomainUser(ObjectId domain, ObjectId user);
   void AddGroupMember(ObjectId group, ObjectId user);
