@@ -14,6 +14,8 @@ namespace mindloft {
 namespace {
 
 constexpr int kHelpFile = 49063;
+constexpr int kHelpIsMissing = 61245;
+constexpr int kHelpCannotBeShown = 61246;
 constexpr int kApplicationTitle = 61200;
 constexpr char kRunOnceKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
 
@@ -25,6 +27,11 @@ bool AutoLoginSwitch() {
     ReportOnly("modPublic", "Main");
     return false;
   }
+}
+
+bool LoginInteractively(const StartServices& services) {
+  GetUtility().Log("start: asking for name and password");
+  return services.login(GetResource().GetString(kApplicationTitle));
 }
 
 /// Shift asks for the login dialog. It is tested a second time after the registry was read, as the key may be
@@ -43,9 +50,9 @@ void Main(const wxString& commandLine, const StartServices& services) try {
   SavedCommandLine() = commandLine;
   platform::InitExtendedComboBoxes();
   SetApplication(std::make_unique<Corvane::Application>(services.directories));
-  const bool loggedIn = (IsAutoLoginWanted(services) && AutoLogin()) ||
-                        services.login(GetResource().GetString(kApplicationTitle));
+  const bool loggedIn = (IsAutoLoginWanted(services) && AutoLogin()) || LoginInteractively(services);
   if (!loggedIn) {
+    GetUtility().Log("start: not logged in");
     Shutdown();
     return;
   }
@@ -57,8 +64,11 @@ void Main(const wxString& commandLine, const StartServices& services) try {
 void ShowHelp() try {
   const auto name = GetResource().GetString(kHelpFile);
   const auto file = platform::ResourceFolder() / platform::PathFromUtf8(ToUtf8(name));
-  if (!platform::OpenWithShell(file)) {
-    throw Error(ErrorNumber::PathAccess, platform::PathToUtf8(file), {ToUtf8(name)});
+  std::error_code ignored;
+  if (!std::filesystem::exists(file, ignored)) {
+    GetMessenger().ShowMessage(kHelpIsMissing, {ToWx(platform::PathToUtf8(file))});
+  } else if (!platform::OpenWithShell(file)) {
+    GetMessenger().ShowMessage(kHelpCannotBeShown, {ToWx(platform::PathToUtf8(file))});
   }
 } catch (...) {
   Raise("modPublic", "ShowHelp");

@@ -5,20 +5,29 @@ here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
 build=$1
 version=$(sed -n 's/^project(mindloft VERSION \([0-9.]*\).*/\1/p' "$here/../CMakeLists.txt")
 
-# A component per language file; its GUID is made of the file's name, so that it stays the same from version to version.
-languages=
+# A component per file of a folder below resources; its GUID is made of the file's name, so that it stays the same
+# from version to version.
 components=
-for file in "$build"/bin/resources/languages/*; do
-  name=$(basename "$file")
-  id=Language_$(tr -c 'A-Za-z0-9\n' _ <<<"$name")
-  hash=$(printf 'mindloft %s' "$name" | md5sum | cut -c1-32 | tr a-f A-F)
-  guid=${hash:0:8}-${hash:8:4}-4${hash:13:3}-8${hash:17:3}-${hash:20:12}
-  languages+="              <Component Id=\"$id\" Guid=\"$guid\"><File Id=\"File_$id\" Source=\"$file\" KeyPath=\"yes\"/></Component>"$'\n'
-  components+="      <ComponentRef Id=\"$id\"/>"$'\n'
-done
+components_of() {
+  local kind=$1 folder=$2 file name id hash guid
+  files=
+  for file in "$build/bin/resources/$folder"/*; do
+    name=$(basename "$file")
+    id=${kind}_$(tr -c 'A-Za-z0-9\n' _ <<<"$name")
+    hash=$(printf 'mindloft %s' "$name" | md5sum | cut -c1-32 | tr a-f A-F)
+    guid=${hash:0:8}-${hash:8:4}-4${hash:13:3}-8${hash:17:3}-${hash:20:12}
+    files+="              <Component Id=\"$id\" Guid=\"$guid\"><File Id=\"File_$id\" Source=\"$file\" KeyPath=\"yes\"/></Component>"$'\n'
+    components+="      <ComponentRef Id=\"$id\"/>"$'\n'
+  done
+}
+components_of Language languages
+languages=$files
+components_of Help help
+help=$files
 
-awk -v languages="$languages" -v components="$components" '
+awk -v languages="$languages" -v help="$help" -v components="$components" '
   /@LANGUAGES@/ { printf "%s", languages; next }
+  /@HELP@/ { printf "%s", help; next }
   /@COMPONENTS@/ { printf "%s", components; next }
   { print }' "$here/mindloft.wxs" >"$build/mindloft.wxs"
 wixl -a x64 -D VERSION="$version" -D BIN="$build/bin" -D SOURCE="$here/.." -o "$build/mindloft.msi" "$build/mindloft.wxs"
