@@ -25,6 +25,17 @@ ExplorerTree::ExplorerTree(wxWindow* parent)
     Guarded("ctExplorer", "TreeMenu",
             [&] { ShowMenu(NodeOf(event.GetItem()), ClientToScreen(event.GetPoint())); });
   });
+  // Shift+F10: some desktops make no tree event of it. A click's event carries a place and came as one
+  // already.
+  Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) {
+    if (event.GetPosition() != wxDefaultPosition) return event.Skip();
+    Guarded("ctExplorer", "TreeMenu", [this] {
+      wxRect place;
+      TreeNode* node = SelectedNode();
+      if (node && GetBoundingRect(ItemOf(*node), place, true))
+        ShowMenu(node, ClientToScreen(place.GetBottomLeft()));
+    });
+  });
 }
 
 TreeNode* ExplorerTree::NodeOf(const wxTreeItemId& item) const {
