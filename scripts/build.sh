@@ -6,6 +6,8 @@ preset=$1
 shift
 options=()
 if command -v ccache >/dev/null; then
+  # Clones and build folders share what was compiled.
+  export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
   options+=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi
 if [ "$preset" = windows ]; then
