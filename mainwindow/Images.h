@@ -1,10 +1,10 @@
 #pragma once
 
 #include <wx/bmpbndl.h>
-#include <wx/iconbndl.h>
-#include <wx/string.h>
 
 #include <vector>
+
+#include "core/forms/Images.h"
 
 namespace mindloft {
 
@@ -20,14 +20,7 @@ enum ExplorerImage : int {
   DisabledUserImage = 7,
 };
 
-/// The program's own drawing of that name ("user" is images/user.svg), `size` pixels wide and high at 96 dpi;
-/// not ok when there is none. Nothing is drawn before a bitmap is asked of it.
-wxBitmapBundle LoadImage(const wxString& name, int size = 16);
-
 /// The explorer's images, in the order of ExplorerImage.
 std::vector<wxBitmapBundle> ExplorerImages();
-
-/// The program's icon for title bars and task lists.
-wxIconBundle WindowIcons();
 
 }  // namespace mindloft

@@ -16,6 +16,12 @@ namespace mindloft {
 
 namespace {
 
+/// Only some desktops let a menu have a direction of its own; on the others it takes that of its window.
+template <typename Menu>
+void SetDirection(Menu& menu, wxLayoutDirection direction) {
+  if constexpr (requires { menu.SetLayoutDirection(direction); }) menu.SetLayoutDirection(direction);
+}
+
 constexpr const char* kSeparator = "-";
 constexpr const char* kNewOfKinds = "*new";  // one item for each kind that can be created
 constexpr const char* kSortMenu = "mnuViewSort";
@@ -118,7 +124,7 @@ std::unique_ptr<wxMenu> MenuBuilder::ContextMenu(const DirectoryKind* listed, co
   if (menu->GetMenuItemCount() > 0) menu->AppendSeparator();
   if (ofList) Append(*menu, "mnuEditSelectAll");
   Append(*menu, "mnuViewRefresh");
-  menu->SetLayoutDirection(frame_.GetLayoutDirection());
+  SetDirection(*menu, frame_.GetLayoutDirection());
   for (const auto& command : commands_.All())
     if (auto* item = menu->FindItem(CommandSet::Id(command.name)))
       item->Enable(CommandSet::Enabled(command, selection));

@@ -34,6 +34,7 @@
 #include "mainwindow/TreeKeys.h"
 #include "mainwindow/WorkingArea.h"
 #include "platform/ui/MouseWheel.h"
+#include "platform/ui/WindowHelpers.h"
 
 namespace mindloft {
 
@@ -106,6 +107,7 @@ void frmSysAdmin::Form_Unload(wxCloseEvent& event) try {
   timer1_.Stop();
   notify_.reset();
   notifyLanguage_.reset();
+  area_->Disconnect();
   connection_->Logout();
   // In full screen the position from before it has been saved already.
   if (!IsFullScreen()) SetFormPos(*this);
@@ -126,6 +128,7 @@ void frmSysAdmin::Timer1_Timer() try {
   if (pending >= 0 && pending < count) {
     explorer.SelectTreeNode(pending);
     explorer.ExpandTreeNode(pending);
+    GetUtility().Log("start: selected node \"" + ToUtf8(explorer.TreeNodeText(pending)) + "\"");
   }
 } catch (...) {
   ShowError("frmSysAdmin", "Timer1_Timer");
@@ -147,7 +150,12 @@ void frmSysAdmin::HandOver() try {
       GetRegistry().GetString(platform::RegistryRoot::LocalMachine,
                               "SOFTWARE\\Ordwell\\Mindloft\\Resource\\Forms\\frmSysAdmin", wxString(), 2000);
   if (caption.empty()) caption = GetTitle();
-  if (const auto& activate = GetApplicationServices().activeMindloft) activate(caption, "wxWindowNR");
+  if (const auto& activate = GetApplicationServices().activeMindloft) {
+    const wxString windowClass = platform::ClassNameOf(platform::HandleOf(this));
+    // The stored caption is of the language of the installation.
+    if (!GetTitle().EndsWith(caption)) activate(GetTitle(), windowClass);
+    activate(caption, windowClass);
+  }
 } catch (...) {
   ShowError("frmSysAdmin", "HandOver");
 }

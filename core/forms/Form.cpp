@@ -8,6 +8,7 @@
 #include "backend/tessaline/Text.h"
 #include "core/ErrorHandling.h"
 #include "core/forms/FormResource.h"
+#include "core/forms/Images.h"
 
 namespace mindloft {
 namespace {
@@ -69,6 +70,7 @@ void BindHelpKey(wxWindow& form) {
 
 FormDialog::FormDialog(wxWindow* parent, const wxString& formName) {
   LoadDialogForm(*this, parent, formName);
+  SetIcons(WindowIcons());
   BindHelpKey(*this);
 }
 
