@@ -2,10 +2,8 @@
 
 #include <wx/image.h>
 #include <wx/msgout.h>
-#include <wx/platinfo.h>
 
 #include <cstdlib>
-#include <iostream>
 
 #include "app/LogTarget.h"
 #include "app/frmHidden.h"
@@ -15,6 +13,7 @@
 #include "core/ErrorHandling.h"
 #include "core/forms/Form.h"
 #include "mainwindow/ApplicationServices.h"
+#include "platform/Terminal.h"
 #include "platform/ui/WindowHelpers.h"
 
 namespace mindloft {
@@ -31,13 +30,9 @@ std::vector<wxString> Arguments(int argc, wxChar** argv) {
   return arguments;
 }
 
-/// To the terminal, or to a message box where a program with windows has none.
+/// To the terminal, or to a message box where the program has none.
 void Print(const wxString& text) {
-  if (wxPlatformInfo::Get().GetOperatingSystemId() & wxOS_WINDOWS) {
-    wxMessageOutputBest().Output(text);
-  } else {
-    std::cout << ToUtf8(text) << std::endl;
-  }
+  if (!platform::WriteToStandardOutput(ToUtf8(text) + "\n")) wxMessageOutputBest().Output(text);
 }
 
 }  // namespace

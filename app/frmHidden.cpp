@@ -17,6 +17,7 @@ void frmHidden::Form_Load(const wxString& commandLine) try {
     return;
   }
   Listen();
+  GetUtility().Log("start: version " MINDLOFT_VERSION);
   TellLanguageProblem();
   auto services = services_;
   services.showMainWindow = [this] { ShowMainWindow(); };
@@ -43,6 +44,7 @@ void frmHidden::Listen() {
 void frmHidden::ShowMainWindow() {
   services_.showMainWindow();
   mainWindowShown_ = true;
+  GetUtility().Log("start: the main window is shown");
   if (handOverWaits_) services_.handOver();
   handOverWaits_ = false;
 }

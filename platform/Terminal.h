@@ -17,6 +17,10 @@ class Utf8Console {
   unsigned before_ = 0;
 };
 
+/// Writes the text (UTF-8) to the process's standard output. False when it has none, as a program with
+/// windows has not unless its output is redirected.
+bool WriteToStandardOutput(const std::string& text);
+
 /// Whether what is typed can be seen.
 enum class Echo { Shown, Hidden };
 

@@ -26,9 +26,13 @@ class Connection {
   void SetWebAddress(std::string address) { target_.webAddress = std::move(address); }
   bool ProxyEnabled() const { return proxyEnabled_; }
   void SetProxyEnabled(bool enabled) { proxyEnabled_ = enabled; }
+  const std::string& ProxyIP() const { return proxyIP_; }
   void SetProxyIP(std::string ip) { proxyIP_ = std::move(ip); }
+  const std::string& ProxyPort() const { return proxyPort_; }
   void SetProxyPort(std::string port) { proxyPort_ = std::move(port); }
+  const std::string& ProxyUser() const { return proxyUser_; }
   void SetProxyUser(std::string user) { proxyUser_ = std::move(user); }
+  const std::string& ProxyPassword() const { return proxyPassword_; }
   void SetProxyPassword(std::string password) { proxyPassword_ = std::move(password); }
   /// Seconds.
   void SetTimeout(std::int32_t seconds) { timeout_ = seconds; }

@@ -4,6 +4,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <iostream>
 #include <string_view>
 
 #include "platform/linux/Descriptor.h"
@@ -75,6 +76,11 @@ std::optional<std::string> ReadLine(int terminal) {
 
 Utf8Console::Utf8Console() = default;
 Utf8Console::~Utf8Console() = default;
+
+bool WriteToStandardOutput(const std::string& text) {
+  std::cout << text << std::flush;
+  return std::cout.good();
+}
 
 std::optional<std::string> AskOnTerminal(const std::string& prompt, Echo echo) {
   const Descriptor terminal(open("/dev/tty", O_RDWR | O_CLOEXEC));

@@ -44,6 +44,14 @@ Utf8Console::~Utf8Console() {
   SetConsoleOutputCP(before_);
 }
 
+bool WriteToStandardOutput(const std::string& text) {
+  const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+  DWORD written = 0;
+  return output && output != INVALID_HANDLE_VALUE &&
+         WriteFile(output, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) &&
+         written == text.size();
+}
+
 std::optional<std::string> AskOnTerminal(const std::string& prompt, Echo echo) {
   const auto input = OpenConsole(L"CONIN$");
   const auto output = OpenConsole(L"CONOUT$");

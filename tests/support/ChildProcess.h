@@ -19,6 +19,8 @@ class ChildProcess {
 
   /// The next complete line without its end; nothing when the output has ended.
   std::optional<std::string> ReadLine();
+  /// Whether it has ended by itself or was killed; does not wait.
+  bool HasEnded();
   /// Ends it at once, as a crash would; does nothing when it has ended.
   void Kill();
   /// Its exit status, or -1 when it was killed.

@@ -13,6 +13,16 @@ struct ChildProcess::Handles {
   pid_t process = -1;
   int output = -1;
   int status = -1;
+
+  /// Takes the status once the process has ended; false while it runs.
+  bool Collect(int options) {
+    int ended = 0;
+    if (process > 0 && waitpid(process, &ended, options) == process) {
+      process = -1;
+      status = WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
+    }
+    return process <= 0;
+  }
 };
 
 ChildProcess::ChildProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments)
@@ -57,13 +67,12 @@ void ChildProcess::Kill() {
   if (handles_->process > 0) kill(handles_->process, SIGKILL);
 }
 
+bool ChildProcess::HasEnded() {
+  return handles_->Collect(WNOHANG);
+}
+
 int ChildProcess::Wait() {
-  if (handles_->process > 0) {
-    int status = 0;
-    waitpid(handles_->process, &status, 0);
-    handles_->process = -1;
-    handles_->status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  }
+  handles_->Collect(0);
   return handles_->status;
 }
 

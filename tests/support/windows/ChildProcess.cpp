@@ -58,6 +58,10 @@ void ChildProcess::Kill() {
   if (handles_->process) TerminateProcess(handles_->process, kKilled);
 }
 
+bool ChildProcess::HasEnded() {
+  return !handles_->process || WaitForSingleObject(handles_->process, 0) == WAIT_OBJECT_0;
+}
+
 int ChildProcess::Wait() {
   if (handles_->process) {
     WaitForSingleObject(handles_->process, INFINITE);
