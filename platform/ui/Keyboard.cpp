@@ -5,7 +5,7 @@
 namespace mindloft::platform {
 namespace {
 
-std::optional<bool> fakeShift;
+std::optional<bool> fakeShift, fakeCapsLock;
 
 }  // namespace
 
@@ -14,11 +14,22 @@ bool IsShiftDown() {
   return fakeShift ? *fakeShift : wxGetKeyState(WXK_SHIFT);
 }
 
+bool IsCapsLockOn() {
+  return fakeCapsLock ? *fakeCapsLock : wxGetKeyState(WXK_CAPITAL);
+}
+
 FakeShiftKey::FakeShiftKey(bool isDown) {
   fakeShift = isDown;
 }
 FakeShiftKey::~FakeShiftKey() {
   fakeShift.reset();
+}
+
+FakeCapsLock::FakeCapsLock(bool isOn) {
+  fakeCapsLock = isOn;
+}
+FakeCapsLock::~FakeCapsLock() {
+  fakeCapsLock.reset();
 }
 
 }  // namespace mindloft::platform

@@ -8,6 +8,8 @@
 #include "backend/tessaline/Text.h"
 #include "backend/tessaline/login/LoginDialog.h"
 #include "platform/Clock.h"
+#include "platform/ui/Keyboard.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/gui/ModalDriver.h"
 #include "tests/support/gui/PrivateServices.h"
 #include "tests/support/gui/WaitFor.h"
@@ -171,6 +173,91 @@ TEST_F(LoginFormTest, WhatIsWrongWithTheDirectoryOrTheServerIsToldAndCanBeMended
     MakeDirectory();
     user.Clear("txtServer");
     user.Click("cmdOK");
+  }}));
+}
+
+TEST_F(LoginFormTest, EveryWayInWhichAFileCannotBeUsedHasItsText) {
+  MakeDirectory();
+  std::ifstream stream(file_, std::ios::binary);
+  const std::string good((std::istreambuf_iterator<char>(stream)), {});
+  stream.close();
+  auto newer = good;
+  newer.replace(60, 4, std::string("\0\0\0\x7f", 4));
+  struct Case {
+    std::string content;
+    int number;
+  };
+  // Half a file, the schema of a later version, another program's file.
+  const Case cases[] = {{good.substr(0, good.size() / 2), 60004}, {newer, 60005}, {"", 60003}};
+  EXPECT_TRUE(Login({[&](User& user) {
+    const auto write = [&](const std::string& bytes) {
+      std::ofstream(file_, std::ios::binary | std::ios::trunc) << bytes;
+    };
+    const auto tells = [&](int number) {
+      Enter(user, "Root", kPassword);
+      user.Click("cmdOK");
+      wxString told = user.Read("lblMessage");
+      told.Replace("\n", " ");
+      EXPECT_EQ(told, GetResource().GetString(number));
+    };
+    for (const auto& one : cases) {
+      write(one.content);
+      tells(one.number);
+    }
+    write(good);
+    using std::filesystem::perms;
+    for (const auto& folder : {folder_.Path(), file_.parent_path().parent_path(), file_.parent_path()})
+      std::filesystem::permissions(folder, perms::all);
+    const auto readable = perms::owner_read | perms::group_read | perms::others_read;
+    std::filesystem::permissions(file_, readable);
+    {
+      const OrdinaryUser ordinary;
+      tells(60006);
+    }
+    std::filesystem::permissions(file_, readable | perms::owner_write);
+    user.Click("cmdOK");
+  }}));
+}
+
+TEST_F(LoginFormTest, ADisabledAccountIsToldNoMoreThanAWrongPassword) {
+  MakeDirectory();
+  auto directory = Corvane::EmbeddedDirectoryProvider(file_)({1, "", 0, ""});
+  const auto session = directory->Login("Root", kPassword);
+  UserRecord record;
+  record.name = record.fullName = "Gone";
+  record.enabled = false;
+  directory->CreateUser(session, record, kPassword);
+  directory->Logout(session);
+  directory.reset();
+  EXPECT_FALSE(Login({[](User& user) {
+    std::vector<wxString> told;
+    for (const char* password : {kPassword, "wrong password"}) {
+      Enter(user, "Gone", password);
+      user.Click("cmdOK");
+      told.push_back(user.Read("lblMessage"));
+    }
+    EXPECT_FALSE(told[0].empty());
+    EXPECT_EQ(told[0], told[1]);
+    user.Press(WXK_ESCAPE);
+  }}));
+}
+
+TEST_F(LoginFormTest, CapsLockIsToldWhileItIsOn) {
+  MakeDirectory();
+  EXPECT_FALSE(Login({[](User& user) {
+    const auto press = [&] {
+      wxKeyEvent key(wxEVT_KEY_UP);
+      user.Find("txtPassword").HandleWindowEvent(key);
+    };
+    {
+      const platform::FakeCapsLock on(true);
+      press();
+      EXPECT_TRUE(user.IsShown("lblCapsLock"));
+    }
+    const platform::FakeCapsLock off(false);
+    press();
+    EXPECT_FALSE(user.IsShown("lblCapsLock"));
+    user.Press(WXK_ESCAPE);
   }}));
 }
 

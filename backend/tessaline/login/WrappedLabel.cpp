@@ -7,14 +7,14 @@ namespace {
 
 /// How many characters of the text fill the first line.
 std::size_t LineLength(const wxStaticText& label, const wxString& text, int width) {
-  std::size_t blank = wxString::npos;
+  std::size_t breakAfter = wxString::npos;
   for (std::size_t length = 1; length <= text.length(); ++length) {
     const wxUniChar last = text[length - 1];
     if (last == '\n') return length;
-    if (last == ' ') blank = length;
     if (length > 1 && last != ' ' && label.GetTextExtent(text.Left(length)).x > width) {
-      return blank == wxString::npos ? length - 1 : blank;
+      return breakAfter == wxString::npos ? length - 1 : breakAfter;
     }
+    if (last == ' ' || last == '/' || last == '\\') breakAfter = length;
   }
   return text.length();
 }

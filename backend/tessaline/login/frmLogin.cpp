@@ -18,6 +18,7 @@
 #include "backend/tessaline/login/frmCreateDirectory.h"
 #include "core/ErrorHandling.h"
 #include "core/Refresh.h"
+#include "platform/ui/Keyboard.h"
 
 namespace mindloft {
 namespace {
@@ -226,7 +227,7 @@ void frmLogin::ShowMessage(const wxString& text, const wxString& details) {
 }
 
 void frmLogin::ShowCapsLock() {
-  const bool on = wxGetKeyState(WXK_CAPITAL);
+  const bool on = platform::IsCapsLockOn();
   if (lblCapsLock->IsShown() == on) return;
   lblCapsLock->Show(on);
   FitToTexts();
