@@ -27,6 +27,7 @@ void MainToolBar::Build() {
     old->Destroy();
   }
   auto* bar = frame_.CreateToolBar(wxTB_FLAT | wxTB_HORIZONTAL, wxID_ANY, "tbrMain");
+  bar->SetLayoutDirection(frame_.GetLayoutDirection());
   for (const wxString name : kTools) {
     const auto* command = commands_.Find(name);
     if (!command) {

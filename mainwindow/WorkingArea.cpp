@@ -3,6 +3,8 @@
 #include <wx/frame.h>
 #include <wx/sizer.h>
 
+#include <algorithm>
+
 #include "backend/tessaline/Services.h"
 #include "controls/ctExplorer.h"
 #include "mainwindow/Images.h"
@@ -34,7 +36,16 @@ void WorkingArea::Create() {
 void WorkingArea::Rebuild() {
   const int border = explorer_->SashPosition();
   frame_.GetSizer()->Detach(explorer_);
-  // Its events may still be in the queue: it goes when they are through.
+  Disconnect();
+  explorer_->Hide();
+  explorer_->Destroy();
+  Create();
+  frame_.Layout();
+  explorer_->SetSashPosition(border);
+}
+
+void WorkingArea::Disconnect() {
+  // Its events may still be in the queue.
   explorer_->trChange = {};
   explorer_->trContextMenu = {};
   explorer_->lvSelChange = {};
@@ -42,11 +53,7 @@ void WorkingArea::Rebuild() {
   explorer_->lvContextMenu = {};
   explorer_->lvCountChange = {};
   explorer_->keyDown = {};
-  explorer_->Hide();
-  explorer_->Destroy();
-  Create();
-  frame_.Layout();
-  explorer_->SetSashPosition(border);
+  explorer_->ClearList();
 }
 
 void WorkingArea::LoadBorder() {

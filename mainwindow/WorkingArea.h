@@ -18,6 +18,10 @@ class WorkingArea {
   /// parts are there. Tree, columns, rows and handlers are the caller's to restore.
   void Rebuild();
 
+  /// Empties the list and lets no event of the explorer out any more: its rows may not be asked for after
+  /// logout.
+  void Disconnect();
+
   /// The border's place between two runs of the program.
   void LoadBorder();
   void SaveBorder() const;

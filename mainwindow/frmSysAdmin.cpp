@@ -108,6 +108,7 @@ void frmSysAdmin::Form_Unload(wxCloseEvent& event) try {
   notify_.reset();
   notifyLanguage_.reset();
   area_->Disconnect();
+  busy_ = true;
   connection_->Logout();
   // In full screen the position from before it has been saved already.
   if (!IsFullScreen()) SetFormPos(*this);
@@ -253,6 +254,10 @@ void frmSysAdmin::ConnectCommands() {
         });
     event.Skip();
   });
+  Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+    event.Skip();
+    Guarded("frmSysAdmin", "ShowPendingCounts", [this] { ShowPendingCounts(); });
+  });
   Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
     event.Skip();
     // Sorting and the bars can change without a selection.
@@ -280,10 +285,17 @@ void frmSysAdmin::UpdateCommands() try {
   menus_->ShowSortColumns(columns, Explorer().SortColumn(), Explorer().SortDescending());
   menus_->Update(selection);
   toolBar_->Update(selection);
-  statusBar_->ShowCounts(Explorer().ListCount(), Explorer().ListTotalCount(), !Explorer().Filter().empty(),
-                         Explorer().SelectedListCount());
+  countsPending_ = true;
 } catch (...) {
   mindloft::Raise("frmSysAdmin", "UpdateCommands");
+}
+
+void frmSysAdmin::ShowPendingCounts() {
+  // The status bar paints at once whatever waits to be painted. Before the layout has caught up with a change
+  // of the list, that would be too early; when the toolkit is idle, it has.
+  if (!std::exchange(countsPending_, false) || busy_ || !GetStatusBar()) return;
+  statusBar_->ShowCounts(Explorer().ListCount(), Explorer().ListTotalCount(), !Explorer().Filter().empty(),
+                         Explorer().SelectedListCount());
 }
 
 void frmSysAdmin::ShowUser() {

@@ -99,7 +99,7 @@ class frmSysAdmin : public wxFrame {
   /// Shows everything in the direction and language of now, selection and list as they were.
   void RebuildArea();
   void ReloadList();
-  void ShowListState();
+  void ShowPendingCounts();
   void RunCommand(const wxString& name);
   void ShowContextMenu(const DirectoryKind* listed, wxPoint screen, bool ofList);
 
@@ -121,7 +121,8 @@ class frmSysAdmin : public wxFrame {
   wxString selectedNodeKey_;  ///< of the tree node whose list is shown
   wxString lastDomainKey_;    ///< of the domain node selected last
   std::int64_t selectedListIndex_ = -1;
-  bool busy_ = false;  ///< tree or list are being rebuilt: selections mean nothing
+  bool countsPending_ = false;  ///< the status bar is behind the list
+  bool busy_ = false;           ///< tree or list are being rebuilt: selections mean nothing
 };
 
 }  // namespace mindloft

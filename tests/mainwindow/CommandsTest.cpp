@@ -24,7 +24,9 @@ class CommandsTest : public MainWindowTest {
       auto* editable = form_->Kinds().Find(kind.key);
       for (auto* command : {&editable->create, &editable->remove, &editable->edit})
         if (!command->name.empty())
-          command->action = [this](const KindScope&, const std::vector<wxString>& keys) { called_.push_back(keys); };
+          command->action = [this](const KindScope&, const std::vector<wxString>& keys) {
+            called_.push_back(keys);
+          };
     }
     form_->UpdateCommands();
   }
@@ -36,9 +38,9 @@ TEST_F(CommandsTest, NothingIsEnabledBeforeItExists) {
   Select({"59300", "59303"});
   Explorer().SelectListRow(0);
   Settle();
-  for (const char* name : {"mnuFileNew", "mnuUseraddNew", "mnuDomainaddNew", "mnuGroupaddNew", "mnuDUseraddNew",
-                           "mnuFileDelete", "mnuFileProperties", "mnuFilePrintSetup", "mnuToolsConfiguration",
-                           "mnuToolsURL"})
+  for (const char* name :
+       {"mnuFileNew", "mnuUseraddNew", "mnuDomainaddNew", "mnuGroupaddNew", "mnuDUseraddNew", "mnuFileDelete",
+        "mnuFileProperties", "mnuFilePrintSetup", "mnuToolsConfiguration", "mnuToolsURL"})
     EXPECT_FALSE(IsEnabled(name)) << name;
   for (const char* name : {"mnuFileExit", "mnuEditSelectAll", "mnuEditFind", "mnuViewRefresh"})
     EXPECT_TRUE(IsEnabled(name)) << name;

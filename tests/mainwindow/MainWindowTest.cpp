@@ -107,7 +107,9 @@ std::vector<wxString> MainWindowTest::Rows() {
   return rows;
 }
 
-wxString MainWindowTest::Status(int field) { return form_->GetStatusBar()->GetStatusText(field); }
+wxString MainWindowTest::Status(int field) {
+  return form_->GetStatusBar()->GetStatusText(field);
+}
 
 wxString MainWindowTest::MenuText(const wxString& name) {
   const auto* item = form_->GetMenuBar()->FindItem(CommandSet::Id(name));
@@ -125,6 +127,8 @@ wxString MainWindowTest::DomainKey(const std::string& name) {
   return {};
 }
 
-Corvane::Server& MainWindowTest::Server() { return *GetApplication()->Server(); }
+Corvane::Server& MainWindowTest::Server() {
+  return *GetApplication()->Server();
+}
 
 }  // namespace mindloft::test

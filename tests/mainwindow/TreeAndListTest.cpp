@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "backend/tessaline/Services.h"
+#include "mainwindow/ApplicationServices.h"
 #include "mainwindow/CommandLineState.h"
 #include "mainwindow/DirectoryTree.h"
-#include "mainwindow/ApplicationServices.h"
 #include "tests/mainwindow/MainWindowTest.h"
 #include "tests/support/gui/WaitFor.h"
 
@@ -23,14 +23,14 @@ TEST_F(TreeAndListTest, TreeHasTheFoldersAndTheDomainsWithTheirKeys) {
     wxString text;
   };
   const auto alpha = DomainKey("Alpha"), beta = DomainKey("Beta");
-  for (const auto& [path, text] : std::vector<Expected>{
-           {{"59300"}, GetResource().GetString(59300)},
-           {{"59300", "59301"}, GetResource().GetString(59301)},
-           {{"59300", "59302"}, GetResource().GetString(59302)},
-           {{"59300", "59303"}, GetResource().GetString(59303)},
-           {{"59300", "59301", alpha}, "Alpha"},
-           {{"59300", "59301", beta, "59304"}, GetResource().GetString(59304)},
-           {{"59300", "59301", beta, "59305"}, GetResource().GetString(59305)}})
+  for (const auto& [path, text] :
+       std::vector<Expected>{{{"59300"}, GetResource().GetString(59300)},
+                             {{"59300", "59301"}, GetResource().GetString(59301)},
+                             {{"59300", "59302"}, GetResource().GetString(59302)},
+                             {{"59300", "59303"}, GetResource().GetString(59303)},
+                             {{"59300", "59301", alpha}, "Alpha"},
+                             {{"59300", "59301", beta, "59304"}, GetResource().GetString(59304)},
+                             {{"59300", "59301", beta, "59305"}, GetResource().GetString(59305)}})
     EXPECT_EQ(explorer.TreeNodeText(Node(path)), text);
   EXPECT_EQ(explorer.TreeNodeCount(), 10);
   EXPECT_NE(explorer.TreeNodeData(Node({"59300", "59301", alpha})), 0);
@@ -99,8 +99,7 @@ TEST_F(TreeAndListTest, StatusCountsFollowFilterAndSelection) {
   EXPECT_EQ(Status(0), GetResource().GetString(59662) + " admin");
   EXPECT_EQ(Status(1), "Entries: 6");
   Explorer().SetFilter("plain");
-  Settle();
-  EXPECT_EQ(Status(1), "1 of 6");
+  WaitFor([&] { return Status(1) == "1 of 6"; }, "the number of rows that pass the filter");
   Explorer().SelectAllListRows();
   WaitFor([&] { return Status(2) == "Selected: 1"; }, "the number of selected rows");
 }
