@@ -29,7 +29,9 @@ void frmHidden::Form_Load(const wxString& commandLine) try {
 void frmHidden::TellLanguageProblem() {
   constexpr int kLanguageIsDamaged = 61440;
   const auto& problem = GetResource().LastProblem();
-  if (!problem.empty()) GetMessenger().ShowMessage(kLanguageIsDamaged, {problem});
+  if (problem.empty()) return;
+  GetUtility().Log("start: a language file cannot be used: " + ToUtf8(problem));
+  GetMessenger().ShowMessage(kLanguageIsDamaged, {problem});
 }
 
 void frmHidden::Listen() {

@@ -84,7 +84,17 @@ ChildProcess& ConsoleFixture::Start(std::vector<std::string> arguments) {
 }
 
 ChildProcess& ConsoleFixture::StartAlone(std::vector<std::string> arguments) {
-  return consoles_.emplace_back(ProgramBeside("mindloft-console"), arguments);
+  return consoles_.emplace_back(program_, arguments);
+}
+
+std::filesystem::path ConsoleFixture::CopyProgram() {
+  const auto folder = folder_ / "program";
+  std::filesystem::create_directory(folder);
+  std::filesystem::copy(program_, folder);
+  std::filesystem::copy(program_.parent_path() / "resources", folder / "resources",
+                        std::filesystem::copy_options::recursive);
+  program_ = folder / program_.filename();
+  return folder / "resources";
 }
 
 void ConsoleFixture::WaitForLog(const std::string& text, int times) {

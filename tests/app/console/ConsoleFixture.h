@@ -27,6 +27,9 @@ class ConsoleFixture : public testing::Test {
   /// A console that works on the test's directory.
   ChildProcess& Start(std::vector<std::string> arguments = {});
   ChildProcess& StartAlone(std::vector<std::string> arguments);
+  /// From here on a copy of the console with a "resources" folder of its own, whose path this returns, is
+  /// started.
+  std::filesystem::path CopyProgram();
   /// Waits until the consoles have logged the text `times` times; fails the test when they never do.
   void WaitForLog(const std::string& text, int times = 1);
   int CountInLog(const std::string& text) const;
@@ -47,6 +50,7 @@ class ConsoleFixture : public testing::Test {
 
   std::shared_ptr<platform::RegistryStore> registry_;
   Values savedSettings_, savedFormPos_;
+  std::filesystem::path program_ = ProgramBeside("mindloft-console");
   std::list<ChildProcess> consoles_;
   std::uintmax_t logStart_ = 0;
 };

@@ -85,6 +85,27 @@ TEST_F(ConsoleTest, SettingsOfTheWrongTypeOrLengthNeverKeepItFromStarting) {
   }
 }
 
+TEST_F(ConsoleTest, ADamagedOrMissingLanguageFileIsTold) {
+  MakeDirectory();
+  const auto languages = CopyProgram() / "languages";
+  int told = 0;
+  const auto tells = [&](const char* language) {
+    Set("CurrentLanguage", language);
+    auto& console = Start();
+    WaitForLog("start: a language file cannot be used", ++told);
+    EXPECT_FALSE(console.HasEnded());
+    console.Kill();
+    console.Wait();
+  };
+  std::filesystem::resize_file(languages / "2052.xml", 1000);
+  tells("2052");
+  std::filesystem::resize_file(languages / "1033.xml", 0);
+  tells("1033");
+  std::filesystem::remove_all(languages);
+  tells("1025");
+  EXPECT_EQ(CountInLog(kWindow), 0);
+}
+
 TEST_F(ConsoleTest, WithoutADirectoryItAsks) {
   Start();
   WaitForLog(kLogin);
