@@ -1,19 +1,17 @@
-#include <wx/display.h>
 #include <wx/toplevel.h>
 
 #include <array>
-#include <cmath>
 
 #include "backend/tessaline/Services.h"
 #include "core/ErrorHandling.h"
 #include "core/modShare.h"
+#include "platform/ui/Metrics.h"
 
 namespace mindloft {
 namespace {
 
 constexpr auto root = platform::RegistryRoot::CurrentUser;
 constexpr const char* basePath = "software\\Ordwell\\Mindloft\\Resource\\FormPos";
-constexpr int twipsPerInch = 1440;
 
 enum WindowState : std::int32_t { Normal = 0, Minimized = 1, Maximized = 2 };
 
@@ -26,31 +24,21 @@ wxString KeyOf(const wxTopLevelWindow& form) {
   return GetStringHelper().JoinStrings({basePath, form.GetName()}, "\\");
 }
 
-std::int32_t ToTwips(int pixels, int dotsPerInch) {
-  return static_cast<std::int32_t>(std::lround(static_cast<double>(pixels) * twipsPerInch / dotsPerInch));
-}
-
-int ToPixels(std::int32_t twips, int dotsPerInch) {
-  return static_cast<int>(std::lround(static_cast<double>(twips) * dotsPerInch / twipsPerInch));
-}
-
-/// The screen that holds the origin: stored coordinates count from it.
-unsigned PrimaryScreen() {
-  for (unsigned index = 0; index < wxDisplay::GetCount(); ++index) {
-    if (wxDisplay(index).IsPrimary()) return index;
-  }
-  return 0;
-}
-
 void Centre(wxTopLevelWindow& form) {
-  wxRect screen = wxDisplay(PrimaryScreen()).GetGeometry();
-  wxSize size = form.GetSize();
-  form.Move((screen.width - size.x) / 2, (screen.height - size.y) / 2);
+  wxSize space = platform::GetScreenMetrics().screen - form.GetSize();
+  form.Move(space.x / 2, space.y / 2);
 }
 
 void SetNormal(wxTopLevelWindow& form) {
   if (form.IsIconized()) form.Iconize(false);
   if (form.IsMaximized()) form.Maximize(false);
+}
+
+/// Puts the form at a rectangle in twips.
+void Place(wxTopLevelWindow& form, int left, int top, int width, int height) {
+  using platform::TwipsToPixelsX, platform::TwipsToPixelsY;
+  form.SetSize(TwipsToPixelsX(left, &form), TwipsToPixelsY(top, &form), TwipsToPixelsX(width, &form),
+               TwipsToPixelsY(height, &form));
 }
 
 /// Puts the form at its stored rectangle; false, and no change, when any part of it is negative or missing.
@@ -64,8 +52,7 @@ bool RestoreRectangle(wxTopLevelWindow& form, const wxString& key) {
     if (value < 0) return false;
   }
   auto [top, left, width, height] = stored;
-  wxSize dpi = form.GetDPI();
-  form.SetSize(ToPixels(left, dpi.x), ToPixels(top, dpi.y), ToPixels(width, dpi.x), ToPixels(height, dpi.y));
+  Place(form, left, top, width, height);
   return true;
 }
 
@@ -77,11 +64,10 @@ void SetFormPos(wxTopLevelWindow& form) try {
   auto& registry = GetRegistry();
   if (state == Normal) {
     wxRect rectangle = form.GetRect();
-    wxSize dpi = form.GetDPI();
-    registry.SetNumber(root, key, "Top", ToTwips(rectangle.y, dpi.y));
-    registry.SetNumber(root, key, "Left", ToTwips(rectangle.x, dpi.x));
-    registry.SetNumber(root, key, "Width", ToTwips(rectangle.width, dpi.x));
-    registry.SetNumber(root, key, "Height", ToTwips(rectangle.height, dpi.y));
+    registry.SetNumber(root, key, "Top", platform::PixelsToTwipsY(rectangle.y, &form));
+    registry.SetNumber(root, key, "Left", platform::PixelsToTwipsX(rectangle.x, &form));
+    registry.SetNumber(root, key, "Width", platform::PixelsToTwipsX(rectangle.width, &form));
+    registry.SetNumber(root, key, "Height", platform::PixelsToTwipsY(rectangle.height, &form));
   }
   registry.SetNumber(root, key, "State", state);
 } catch (...) {
@@ -109,10 +95,10 @@ void LoadFormPos(wxTopLevelWindow& form, bool fullScreen) try {
 }
 
 void FullScreen(wxTopLevelWindow& form) try {
-  // The working area: what a maximized window's client area and its caption take together.
-  wxSize area = wxDisplay(PrimaryScreen()).GetClientArea().GetSize();
-  form.Move(0, 0);
-  form.SetSize(area);
+  // The client height of a window over the whole working area excludes its caption.
+  const auto screen = platform::GetScreenMetrics();
+  Place(form, 0, 0, platform::PixelsToTwipsX(screen.fullScreenWidth, &form),
+        platform::PixelsToTwipsY(screen.captionHeight + screen.fullScreenHeight, &form));
 } catch (...) {
   ReportOnly("modShare", "FullScreen");
 }

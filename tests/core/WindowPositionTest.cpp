@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
-#include <wx/display.h>
 #include <wx/frame.h>
 
 #include "core/modShare.h"
+#include "platform/ui/Metrics.h"
 #include "tests/support/gui/PrivateServices.h"
 #include "tests/support/gui/WaitFor.h"
 
@@ -37,9 +37,9 @@ class WindowPositionTest : public PrivateServices {
     Put("Width", Twips(pixels.width));
     Put("Height", Twips(pixels.height));
   }
-  std::int32_t Twips(int pixels) const { return pixels * 1440 / form_->GetDPI().x; }
+  std::int32_t Twips(int pixels) const { return platform::PixelsToTwipsX(pixels, form_); }
   wxPoint Centred() const {
-    wxSize screen = wxDisplay(0u).GetGeometry().GetSize();
+    wxSize screen = platform::GetScreenMetrics().screen;
     return wxPoint((screen.x - form_->GetSize().x) / 2, (screen.y - form_->GetSize().y) / 2);
   }
 
@@ -56,7 +56,19 @@ TEST_F(WindowPositionTest, TheFirstStartCentresTheFormAtItsDesignSize) {
 
 TEST_F(WindowPositionTest, TheFirstStartInFullScreenTakesTheWorkingArea) {
   LoadFormPos(*form_, true);
-  EXPECT_EQ(form_->GetRect(), wxRect(wxPoint(0, 0), wxDisplay(0u).GetClientArea().GetSize()));
+  auto screen = platform::SystemScreenMetrics();
+  EXPECT_EQ(form_->GetRect(),
+            wxRect(0, 0, screen.fullScreenWidth, screen.fullScreenHeight + screen.captionHeight));
+  // The screen is asked at each call: it may have changed since.
+  for (wxSize changed : {wxSize(1000, 700), wxSize(640, 400)}) {
+    platform::FakeScreen fake({changed, changed.x, changed.y - 70, 22});
+    form_->Move(50, 60);
+    FullScreen(*form_);
+    EXPECT_EQ(form_->GetRect(), wxRect(0, 0, changed.x, changed.y - 48));
+    form_->SetSize(200, 150);
+    LoadFormPos(*form_, false);
+    EXPECT_EQ(form_->GetPosition(), Centred());
+  }
 }
 
 TEST_F(WindowPositionTest, StoredRectanglesAreAppliedAsTheyAreUnlessAnyPartIsNegative) {
