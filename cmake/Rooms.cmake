@@ -51,10 +51,15 @@ function(mindloft_embed target prefix)
 endfunction()
 
 # mindloft_tests(ROOM [GUI] [LINK target...]): the program ROOM_tests of this folder's sources, run by ctest.
+# Tests for one platform lie in windows/ or linux/ below it.
 # Each program is one test; a GUI one runs on a display of its own, so that no other test takes its focus.
 function(mindloft_tests room)
   cmake_parse_arguments(TESTS "GUI" "" "LINK" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  if(WIN32)
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp windows/*.cpp)
+  else()
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp linux/*.cpp)
+  endif()
   set(target ${room}_tests)
   if(NOT sources)
     return()

@@ -72,6 +72,31 @@ FormDialog::FormDialog(wxWindow* parent, const wxString& formName) {
   LoadDialogForm(*this, parent, formName);
   SetIcons(WindowIcons());
   BindHelpKey(*this);
+  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    GrowToContents();
+  });
+}
+
+bool FormDialog::Layout() {
+  if (!GetSizer()) return wxDialog::Layout();
+  wxSize room = GetClientSize();
+  room.IncTo(GetSizer()->GetMinSize());
+  GetSizer()->SetDimension(wxPoint(), room);
+  return true;
+}
+
+// When a window is shown for the first time, the window manager may take the room of its borders from what
+// was fitted to the contents.
+void FormDialog::GrowToContents() {
+  if (!GetSizer() || !IsShown()) return;
+  const wxSize needed = GetSizer()->GetMinSize();
+  wxSize room = GetClientSize();
+  room.IncTo(needed);
+  // Asked for once: the screen may be too small.
+  if (room == GetClientSize() || grownTo_ == needed) return;
+  grownTo_ = needed;
+  SetClientSize(room);
 }
 
 void FormDialog::LoadInfoOnForm() try {

@@ -62,6 +62,8 @@ class FormDialog : public wxDialog {
   /// Sets every caption in the current language and makes the form large enough for them.
   virtual void LoadInfoOnForm();
   int ShowModal() override;
+  /// Never in less room than the contents need: what has no room is cut off instead of squeezed.
+  bool Layout() override;
 
  protected:
   /// The buttons of Enter and Esc. ShowModal returns wxID_OK or wxID_CANCEL when they close the form.
@@ -72,6 +74,11 @@ class FormDialog : public wxDialog {
   }
 
   LoadingGuard loading_;
+
+ private:
+  void GrowToContents();
+
+  wxSize grownTo_;  ///< what was asked for last
 };
 
 /// What F1 does; set by the application at start.

@@ -18,7 +18,7 @@ namespace {
 
 [[noreturn]] void Fail(const char* what, const std::filesystem::path& file) {
   int failure = errno;
-  bool isFull = failure == ENOSPC || failure == EDQUOT;
+  bool isFull = failure == ENOSPC || failure == EDQUOT || failure == EFBIG;
   throw Error(isFull ? ErrorNumber::DiskFull : ErrorNumber::PathAccess,
               std::string(what) + ";" + file.string() + ";" + std::strerror(failure), {file.string()});
 }

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <wx/app.h>
 #include <wx/frame.h>
+#include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/textctrl.h>
 
@@ -47,6 +48,8 @@ class ErrorPathTest : public PrivateServices {
 TEST_F(ErrorPathTest, AnErrorThreeProceduresDeepIsRecordedByAllThreeAndShownOnce) {
   Error error(ErrorNumber::Conflict, "version 3, found 4; user 17", {"anna", "bert", "2026-01-01T10:00:00Z"});
   Fail(error, [](User& user) {
+    WaitFor([&] { return user.Form().GetClientSize().y >= user.Form().GetSizer()->GetMinSize().y; },
+            "room for all controls");
     EXPECT_EQ(user.Title(), "Mindloft: Warning ('60040')");
     EXPECT_EQ(user.Read("txtMessage"),
               "Runtime error at Store of Directory; SaveRoles of frmUserDetail; cmdApply_Click of "

@@ -3,6 +3,7 @@
 #include <wx/init.h>
 
 #include "tests/platform/Child.h"
+#include "tests/support/gui/ToolkitMessages.h"
 
 namespace mindloft::test {
 namespace {
@@ -12,6 +13,7 @@ class PlatformTestApp : public wxApp {
  public:
   bool OnInit() override {
     SetExitOnFrameDelete(false);
+    FailOnToolkitMessages();
     wxSetAssertHandler([](const wxString& file, int line, const wxString&, const wxString& condition,
                           const wxString& message) {
       ADD_FAILURE_AT(file.utf8_str(), line)

@@ -6,6 +6,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
+#include "tests/support/gui/ToolkitMessages.h"
 
 namespace mindloft::test {
 namespace {
@@ -33,6 +34,7 @@ class TestApp : public wxApp {
     SetExitOnFrameDelete(false);
     delete wxLog::SetActiveTarget(new FailingLog);
     wxSetAssertHandler(FailOnAssert);
+    FailOnToolkitMessages();
     CallAfter([this] {
       result_ = RUN_ALL_TESTS();
       ResetServices();
