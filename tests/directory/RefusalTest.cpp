@@ -4,6 +4,7 @@
 
 #include "backend/directory/file/Schema.h"
 #include "tests/directory/DirectoryFixture.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace mindloft::test {
 namespace {
@@ -78,7 +79,46 @@ TEST_F(RefusalTest, ASQLiteFileWithoutOurTablesIsDamaged) {
 }
 
 TEST_F(RefusalTest, ReadOnlyPlacesAreTold) {
-  // Permission bits mean nothing to the superuser, so the engine's own answers are tried.
+  using fs::perms;
+  constexpr auto readable = perms::owner_read | perms::group_read | perms::others_read;
+  constexpr auto writable = perms::owner_write | perms::group_write | perms::others_write;
+  constexpr auto open = perms::all;
+  struct {
+    const char* name;
+    perms file, place;
+    ErrorNumber expected;
+    bool everywhere;  ///< also where a folder has no permissions that this can set
+  } const cases[] = {
+      {"file", readable, open, ErrorNumber::DirectoryReadOnly, true},
+      {"file and folder", readable, open & ~writable, ErrorNumber::DirectoryReadOnly, true},
+      {"folder", readable | writable, open & ~writable, ErrorNumber::DirectoryReadOnly, false},
+      {"unreadable", perms::none, open, ErrorNumber::PathAccess, false},
+  };
+  const auto place = folder_ / "place", file = place / "a.directory";
+  fs::create_directory(place);
+  CopyNewDirectory(file);
+  const std::string content = Content(file);
+  fs::permissions(place, open);
+  fs::permissions(place, open & ~writable);
+  bool foldersBind = (fs::status(place).permissions() & writable) == perms::none;
+  for (const auto& [name, ofFile, ofPlace, expected, everywhere] : cases) {
+    if (!everywhere && !foldersBind) continue;
+    SCOPED_TRACE(name);
+    fs::permissions(file, ofFile);
+    fs::permissions(place, ofPlace);
+    {
+      OrdinaryUser user;
+      EXPECT_EQ(NumberOf([&] { SqliteDirectory::Open(file); }), expected);
+    }
+    fs::permissions(place, open);
+    fs::permissions(file, readable | writable);
+    EXPECT_EQ(std::distance(fs::directory_iterator(place), {}), 1);
+    EXPECT_EQ(Content(file), content);
+  }
+  EXPECT_EQ(SqliteDirectory::Open(file)->Check(), std::vector<std::string>());
+}
+
+TEST_F(RefusalTest, TheEnginesAnswersHaveNumbers) {
   for (auto [code, expected] : {std::pair{SQLITE_READONLY, ErrorNumber::DirectoryReadOnly},
                                 {SQLITE_READONLY_DIRECTORY, ErrorNumber::DirectoryReadOnly},
                                 {SQLITE_CANTOPEN, ErrorNumber::PathAccess},

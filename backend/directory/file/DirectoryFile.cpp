@@ -57,10 +57,11 @@ std::unique_ptr<sqlite::Database> OpenDirectoryFile(const std::filesystem::path&
   CheckHeader(file);
   try {
     auto database = std::make_unique<sqlite::Database>(file, SQLITE_OPEN_READWRITE);
-    ConfigureConnection(*database);
+    // The engine reads a file that it cannot write; the log that it makes for that would stay beside it.
     if (sqlite3_db_readonly(database->Handle(), "main") != 0) {
       throw Error(ErrorNumber::DirectoryReadOnly, "the file cannot be written");
     }
+    ConfigureConnection(*database);
     {
       sqlite::Snapshot snapshot(*database);
       // The log may hold a newer schema than the file's header.
