@@ -4,12 +4,11 @@
 #include <wx/toplevel.h>
 
 #include <algorithm>
-#include <limits>
 #include <vector>
 
-#include "backend/errors/Error.h"
 #include "backend/tessaline/Services.h"
 #include "core/ErrorHandling.h"
+#include "core/IdSource.h"
 #include "platform/Random.h"
 
 namespace mindloft {
@@ -51,11 +50,8 @@ wxString CreateGUID() try {
 }
 
 std::int32_t CreateId() try {
-  static std::int32_t last = 0;
-  if (last == std::numeric_limits<std::int32_t>::max()) {
-    throw Error(ErrorNumber::Overflow, "no identifier is left in this process");
-  }
-  return ++last;
+  static IdSource source;
+  return source.Next();
 } catch (...) {
   Raise("modShare", "CreateId");
 }

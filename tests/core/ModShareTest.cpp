@@ -1,10 +1,14 @@
 #include <gmock/gmock.h>
 #include <wx/frame.h>
 
+#include "backend/corvane/LocalDirectory.h"
 #include "backend/directory/Privileges.h"
 #include "core/ErrorHandling.h"
+#include "core/IdSource.h"
 #include "core/Refresh.h"
 #include "core/modShare.h"
+#include "platform/SystemGuid.h"
+#include "tests/support/gui/ModalDriver.h"
 #include "tests/support/gui/PrivateServices.h"
 #include "tests/support/gui/WaitFor.h"
 
@@ -38,10 +42,94 @@ TEST_F(ModShareTest, IdentifiersAreConsecutiveAndGuidsAre32Digits) {
   }
 }
 
-TEST_F(ModShareTest, NobodyLoggedInHasNoPrivilege) {
+TEST_F(ModShareTest, NoIdentifierIsGivenTwice) {
+  constexpr auto largest = std::numeric_limits<std::int32_t>::max();
+  IdSource source(largest - 1);
+  EXPECT_EQ(source.Next(), largest);
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    try {
+      ADD_FAILURE() << source.Next();
+    } catch (const Error& error) {
+      EXPECT_EQ(error.Number(), ErrorNumber::Overflow);
+    }
+  }
+}
+
+TEST_F(ModShareTest, AGuidIsItsFourWordsFromTheLastAndIsMissedWithAMessage) {
+  std::string bytes = "\x01\x23\x45\x67\x89\xAB\xCD\xEF\xFE\xDC\xBA\x98\x76\x54\x32\x10";
+  platform::FakeGuidSource source([&] { return bytes; });
+  EXPECT_EQ(CreateGUID(), "1032547698BADCFEEFCDAB8967452301");
+  bytes.clear();
+  ModalDriver modal;
+  modal.ExpectMessage(25005, wxID_OK);
+  EXPECT_EQ(CreateGUID(), wxString('0', 32));
+}
+
+class LoggedInTest : public PrivateServices {
+ protected:
+  static constexpr const char* password = "correct horse battery";
+
+  void SetUp() override {
+    PrivateServices::SetUp();
+    auto file = folder_ / "test.directory";
+    Corvane::CreateLocalDirectory(file, "root", password);
+    SetApplication(std::make_unique<Corvane::Application>(Corvane::EmbeddedDirectoryProvider(file)));
+    GetConnection()->SetConnectMode(1);
+    LogIn("root");
+  }
+  void TearDown() override {
+    SetApplication(nullptr);
+    PrivateServices::TearDown();
+  }
+  static void LogIn(const char* name) { ASSERT_TRUE(GetConnection()->Login(name, password)); }
+  static std::shared_ptr<Corvane::Server> Server() { return GetApplication()->Server(); }
+};
+
+TEST_F(LoggedInTest, PrivilegesAreTheLoggedInUsersOwn) {
+  auto domain = Server()->KDomains()->Add();
+  domain->SetName("Domain");
+  domain->Update();
+  auto group = domain->DGroups()->Add();
+  group->SetName("Writers");
+  group->SetDomainPrivileges(ReadDocuments | WriteDocuments);
+  group->Update();
+  struct User {
+    const char* name;
+    std::string group;
+  };
+  for (const auto& [name, groupId] :
+       {User{"writer", group->Id()}, User{"chief", domain->DGroups()->OfKind(5)->Id()}, User{"guest", ""}}) {
+    auto user = Server()->Users()->Add();
+    user->SetName(name);
+    user->SetPassword(password);
+    user->Update();
+    user->ChangeDomains(domain->Id(), "");
+    if (!groupId.empty()) user->ChangeGroups(groupId, "");
+  }
+  auto id = domain->Id();
+
+  struct Case {
+    const char* name;
+    bool system, write, manage, administrator;
+  };
+  for (auto [name, system, write, manage, administrator] :
+       {Case{"root", true, false, false, false}, Case{"writer", false, true, false, false},
+        Case{"chief", false, true, true, true}, Case{"guest", false, false, false, false}}) {
+    SCOPED_TRACE(name);
+    LogIn(name);
+    auto context = Server()->KDomains()->Item(id);
+    EXPECT_EQ(CheckSysPrivilege(ManageUsers), system);
+    EXPECT_EQ(CheckSysPrivilege(AllSysPrivileges), system);
+    EXPECT_EQ(CheckDomainPrivilege(context, WriteDocuments), write);
+    EXPECT_EQ(CheckDomainPrivilege(context, WriteDocuments | ManageDomainGroups), manage);
+    EXPECT_EQ(GetCurrUserIsCurrDomainAdminstratorUser(context), administrator);
+    EXPECT_FALSE(CheckDomainPrivilege(nullptr, ReadDocuments));
+    EXPECT_FALSE(GetCurrUserIsCurrDomainAdminstratorUser(nullptr));
+  }
+  auto context = Server()->KDomains()->Item(id);
+  GetConnection()->Logout();
   EXPECT_FALSE(CheckSysPrivilege(ManageUsers));
-  EXPECT_FALSE(CheckDomainPrivilege(nullptr, ReadDocuments));
-  EXPECT_FALSE(GetCurrUserIsCurrDomainAdminstratorUser(nullptr));
+  EXPECT_FALSE(GetCurrUserIsCurrDomainAdminstratorUser(context));
 }
 
 TEST_F(ModShareTest, ShutdownUnloadsTheLastFormFirstAndStopsAtARefusal) {
