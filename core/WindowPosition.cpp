@@ -13,6 +13,9 @@ namespace {
 constexpr auto root = platform::RegistryRoot::CurrentUser;
 constexpr const char* basePath = "software\\Ordwell\\Mindloft\\Resource\\FormPos";
 
+/// Pixels; the greatest that window systems can count.
+constexpr int greatestSize = 32767;
+
 enum WindowState : std::int32_t { Normal = 0, Minimized = 1, Maximized = 2 };
 
 WindowState StateOf(const wxTopLevelWindow& form) {
@@ -37,6 +40,8 @@ void SetNormal(wxTopLevelWindow& form) {
 /// Puts the form at a rectangle in twips.
 void Place(wxTopLevelWindow& form, int left, int top, int width, int height) {
   using platform::TwipsToPixelsX, platform::TwipsToPixelsY;
+  // Without a greatest size of its own a window would be cut to the size of the present screens.
+  form.SetMaxSize(wxSize(greatestSize, greatestSize));
   form.SetSize(TwipsToPixelsX(left, &form), TwipsToPixelsY(top, &form), TwipsToPixelsX(width, &form),
                TwipsToPixelsY(height, &form));
 }

@@ -54,7 +54,7 @@ wxString Utility::LocateFile(const wxString& fileName, const wxString& folder) c
   if (relative.empty() || folder.empty()) return {};
   std::deque<fs::path> folders{platform::PathFromUtf8(ToUtf8(folder))};
   for (; !folders.empty(); folders.pop_front()) {
-    fs::path candidate = folders.front() / relative;
+    fs::path candidate = (folders.front() / relative).make_preferred();
     if (IsFile(candidate)) return ToWx(platform::PathToUtf8(candidate));
     auto below = Subfolders(folders.front());
     folders.insert(folders.end(), below.begin(), below.end());
