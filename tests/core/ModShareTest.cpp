@@ -37,7 +37,8 @@ TEST_F(ModShareTest, IdentifiersAreConsecutiveAndGuidsAre32Digits) {
   std::set<std::string> seen;
   for (int count = 0; count < 200; ++count) {
     auto guid = CreateGUID().utf8_string();
-    EXPECT_THAT(guid, testing::MatchesRegex("[0-9A-F]{32}"));
+    EXPECT_EQ(guid.size(), 32u);
+    EXPECT_EQ(guid.find_first_not_of("0123456789ABCDEF"), std::string::npos) << guid;
     EXPECT_TRUE(seen.insert(guid).second);
   }
 }

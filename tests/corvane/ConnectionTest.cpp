@@ -93,6 +93,8 @@ TEST_F(ConnectionTest, OpensAnewForEachTargetAndKeepsWhatFailedLoginsOpened) {
   EXPECT_TRUE(connection->Login(kAdministrator, kPassword));
   EXPECT_EQ(opened, 2);
   connection->Logout();
+  server_.reset();
+  console_.reset();
   // Nothing holds the file now: it can be put away, and its absence is noticed.
   std::filesystem::rename(file_, folder_ / "away");
   for (const char* ending : {"-wal", "-shm"}) std::filesystem::remove(file_.string() + ending);

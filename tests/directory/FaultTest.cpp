@@ -65,8 +65,8 @@ TEST_F(FaultTest, AFailureAtAnyWriteLeavesTheChangeWholeOrAbsent) {
       for (int write = 1; failed; ++write) {
         SCOPED_TRACE(std::string(change.name) + ", write " + std::to_string(write));
         directory_.reset();
-        for (const char* suffix : {"-wal", "-shm"}) fs::remove(file_.string() + suffix);
-        fs::copy_file(prepared, file_, fs::copy_options::overwrite_existing);
+        for (const char* suffix : {"", "-wal", "-shm"}) fs::remove(file_.string() + suffix);
+        fs::copy_file(prepared, file_);
         directory_ = SqliteDirectory::Open(file_);
         SessionId session = directory_->Login("admin", kPassword);
         faults.FailFrom(write, code);

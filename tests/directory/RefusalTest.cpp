@@ -87,35 +87,38 @@ TEST_F(RefusalTest, ReadOnlyPlacesAreTold) {
     const char* name;
     perms file, place;
     ErrorNumber expected;
-    bool everywhere;  ///< also where a folder has no permissions that this can set
   } const cases[] = {
-      {"file", readable, open, ErrorNumber::DirectoryReadOnly, true},
-      {"file and folder", readable, open & ~writable, ErrorNumber::DirectoryReadOnly, true},
-      {"folder", readable | writable, open & ~writable, ErrorNumber::DirectoryReadOnly, false},
-      {"unreadable", perms::none, open, ErrorNumber::PathAccess, false},
+      {"file", readable, open, ErrorNumber::DirectoryReadOnly},
+      {"file and folder", readable, open & ~writable, ErrorNumber::DirectoryReadOnly},
+      {"folder", readable | writable, open & ~writable, ErrorNumber::DirectoryReadOnly},
+      {"unreadable", perms::none, open, ErrorNumber::PathAccess},
   };
   const auto place = folder_ / "place", file = place / "a.directory";
   fs::create_directory(place);
   CopyNewDirectory(file);
   const std::string content = Content(file);
-  fs::permissions(place, open);
-  fs::permissions(place, open & ~writable);
-  bool foldersBind = (fs::status(place).permissions() & writable) == perms::none;
-  for (const auto& [name, ofFile, ofPlace, expected, everywhere] : cases) {
-    if (!everywhere && !foldersBind) continue;
+  int tried = 0;
+  for (const auto& [name, ofFile, ofPlace, expected] : cases) {
     SCOPED_TRACE(name);
     fs::permissions(file, ofFile);
     fs::permissions(place, ofPlace);
     {
       OrdinaryUser user;
-      EXPECT_EQ(NumberOf([&] { SqliteDirectory::Open(file); }), expected);
+      // Not every system knows all of these permissions, or holds everybody to them.
+      bool held = !std::ofstream(file, std::ios::app) || !std::ofstream(place / "new");
+      if (held) {
+        EXPECT_EQ(NumberOf([&] { SqliteDirectory::Open(file); }), expected);
+        ++tried;
+      }
     }
     fs::permissions(place, open);
     fs::permissions(file, readable | writable);
+    fs::remove(place / "new");
     EXPECT_EQ(std::distance(fs::directory_iterator(place), {}), 1);
     EXPECT_EQ(Content(file), content);
   }
   EXPECT_EQ(SqliteDirectory::Open(file)->Check(), std::vector<std::string>());
+  if (tried == 0) GTEST_SKIP() << "this system holds this user to no permissions";
 }
 
 TEST_F(RefusalTest, TheEnginesAnswersHaveNumbers) {
