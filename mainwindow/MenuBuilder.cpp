@@ -57,7 +57,8 @@ void MenuBuilder::BuildMenuBar() {
   sortMenu_ = nullptr;
   sortColumns_.clear();
   for (const auto& menu : Layout()) bar->Append(BuildMenu(menu.items), CommandSet::Caption(menu.name));
-  bar->SetLayoutDirection(frame_.GetLayoutDirection());
+  // Where a menu bar is no window it takes the direction of its frame.
+  if (bar->GetHandle()) bar->SetLayoutDirection(frame_.GetLayoutDirection());
   wxMenuBar* old = frame_.GetMenuBar();
   frame_.SetMenuBar(bar.release());
   delete old;
