@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Makes mindloft.msi of a Windows build: make-msi.sh BUILD-FOLDER
 set -euo pipefail
-here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
-build=$1
-version=$(sed -n 's/^project(mindloft VERSION \([0-9.]*\).*/\1/p' "$here/../CMakeLists.txt")
+root=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/..
+# wixl finds files by relative paths only.
+build=$(realpath -s --relative-to="$root" "$1")
+cd "$root"
+version=$(sed -n 's/^project(mindloft VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 
 # A component per file of a folder below resources; its GUID is made of the file's name, so that it stays the same
 # from version to version.
@@ -29,5 +31,5 @@ awk -v languages="$languages" -v help="$help" -v components="$components" '
   /@LANGUAGES@/ { printf "%s", languages; next }
   /@HELP@/ { printf "%s", help; next }
   /@COMPONENTS@/ { printf "%s", components; next }
-  { print }' "$here/mindloft.wxs" >"$build/mindloft.wxs"
-wixl -a x64 -D VERSION="$version" -D BIN="$build/bin" -D SOURCE="$here/.." -o "$build/mindloft.msi" "$build/mindloft.wxs"
+  { print }' packaging/mindloft.wxs >"$build/mindloft.wxs"
+wixl -a x64 -D VERSION="$version" -D BIN="$build/bin" -D SOURCE=. -o "$build/mindloft.msi" "$build/mindloft.wxs"
