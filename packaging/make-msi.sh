@@ -18,7 +18,7 @@ components_of() {
     id=${kind}_$(tr -c 'A-Za-z0-9\n' _ <<<"$name")
     hash=$(printf 'mindloft %s' "$name" | md5sum | cut -c1-32 | tr a-f A-F)
     guid=${hash:0:8}-${hash:8:4}-4${hash:13:3}-8${hash:17:3}-${hash:20:12}
-    files+="              <Component Id=\"$id\" Guid=\"$guid\"><File Id=\"File_$id\" Source=\"$file\" KeyPath=\"yes\"/></Component>"$'\n'
+    files+="              <Component Id=\"$id\" Win64=\"yes\" Guid=\"$guid\"><File Id=\"File_$id\" Source=\"$file\" KeyPath=\"yes\"/></Component>"$'\n'
     components+="      <ComponentRef Id=\"$id\"/>"$'\n'
   done
 }
