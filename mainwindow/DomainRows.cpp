@@ -7,7 +7,7 @@
 namespace mindloft {
 
 DomainRows::DomainRows(Corvane::DomainView view)
-    : RecordRows(std::move(view), {Order::Name, Order::Description, std::nullopt}) {}
+    : RecordRows(std::move(view), {Order::Name, Order::Description, Order::State}) {}
 
 std::vector<wxString> DomainRows::Fields(const DomainRecord& record) const {
   return {ToWx(record.name), ToWx(record.description),

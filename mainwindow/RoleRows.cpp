@@ -4,7 +4,7 @@
 
 namespace mindloft {
 
-RoleRows::RoleRows(Corvane::RoleView view) : RecordRows(std::move(view), {Order::Name, std::nullopt}) {}
+RoleRows::RoleRows(Corvane::RoleView view) : RecordRows(std::move(view), {Order::Name, Order::Privileges}) {}
 
 std::vector<wxString> RoleRows::Fields(const RoleRecord& record) const {
   return {ToWx(record.name), ToWx(record.privilegeText)};

@@ -35,7 +35,13 @@ enum class Collection : std::uint8_t {
 
 /// The offered orders. A collection whose rows lack the field is ordered by name. Equal keys are ordered by
 /// identifier.
-enum class Order : std::uint8_t { Name, FullName, Description };
+enum class Order : std::uint8_t {
+  Name,
+  FullName,     ///< of users
+  Description,  ///< of users, domains and groups
+  State,        ///< of domains: the enabled ones, then the disabled ones, both by name
+  Privileges,   ///< of roles: their privileges in words
+};
 
 /// One window on a collection: which rows, in which order.
 struct Query {

@@ -10,10 +10,12 @@
 
 namespace mindloft {
 
-/// The offered orders; a key's place in FoldedUser is its order's number.
+/// The orders of users; a key's place in FoldedUser is its order's number. The other orders are that of
+/// names.
 inline constexpr std::array kOrders = {Order::Name, Order::FullName, Order::Description};
 inline constexpr std::size_t PlaceOf(Order order) {
-  return static_cast<std::size_t>(order);
+  const auto place = static_cast<std::size_t>(order);
+  return place < kOrders.size() ? place : static_cast<std::size_t>(Order::Name);
 }
 
 /// The folded listed texts of one user: what orders and searches compare.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "backend/directory/FoldedText.h"
+#include "backend/directory/store/PrivilegeWords.h"
 
 namespace mindloft {
 namespace {
@@ -10,36 +11,46 @@ namespace {
 /// As many as a main window with a property sheet and a picker above it shows.
 constexpr std::size_t kKeptWindows = 8;
 
-/// Identifier, name key, and the other listed text of all rows of the scope ?1.
+/// Identifier, name key, the other listed text, and the state of domains or privileges of roles, of all rows
+/// of the scope ?1.
 const char* RowsSql(Collection collection) {
   switch (collection) {
     case Collection::Roles:
-      return "SELECT id, name_key, '' FROM role WHERE ?1 IS NOT NULL";
+      return "SELECT id, name_key, '', privileges FROM role WHERE ?1 IS NOT NULL";
     case Collection::UserRoles:
-      return "SELECT r.id, r.name_key, '' FROM role_member m JOIN role r ON r.id = m.role WHERE m.user = ?1";
+      return "SELECT r.id, r.name_key, '', r.privileges FROM role_member m JOIN role r ON r.id = m.role "
+             "WHERE m.user = ?1";
     case Collection::Domains:
-      return "SELECT id, name_key, description FROM domain WHERE ?1 IS NOT NULL";
+      return "SELECT id, name_key, description, disabled FROM domain WHERE ?1 IS NOT NULL";
     case Collection::UserDomains:
-      return "SELECT d.id, d.name_key, d.description FROM domain_user m JOIN domain d ON d.id = m.domain "
+      return "SELECT d.id, d.name_key, d.description, d.disabled FROM domain_user m JOIN domain d ON d.id = "
+             "m.domain "
              "WHERE m.user = ?1";
     case Collection::DomainGroups:
-      return "SELECT id, name_key, description FROM grp WHERE domain = ?1";
+      return "SELECT id, name_key, description, 0 FROM grp WHERE domain = ?1";
     case Collection::UserGroups:
-      return "SELECT g.id, g.name_key, g.description FROM group_member m JOIN grp g ON g.id = m.grp "
+      return "SELECT g.id, g.name_key, g.description, 0 FROM group_member m JOIN grp g ON g.id = m.grp "
              "WHERE m.user = ?1";
     case Collection::Styles:
-      return "SELECT id, name_key, '' FROM style WHERE ?1 IS NOT NULL";
+      return "SELECT id, name_key, '', 0 FROM style WHERE ?1 IS NOT NULL";
     case Collection::Journal:
-      return "SELECT id, name, who FROM journal WHERE ?1 IS NOT NULL";
+      return "SELECT id, name, who, 0 FROM journal WHERE ?1 IS NOT NULL";
     default:
       break;
   }
   throw Error(ErrorNumber::TypeMismatch, "no window on users");
 }
 
-bool HasDescription(Collection collection) {
-  return collection == Collection::Domains || collection == Collection::UserDomains ||
-         collection == Collection::DomainGroups || collection == Collection::UserGroups;
+/// The order of a query, or by name where the rows lack its field.
+Order OrderOf(const Query& query) {
+  const bool domains = query.collection == Collection::Domains || query.collection == Collection::UserDomains;
+  const bool groups =
+      query.collection == Collection::DomainGroups || query.collection == Collection::UserGroups;
+  const bool roles = query.collection == Collection::Roles || query.collection == Collection::UserRoles;
+  const bool offered = (query.order == Order::Description && (domains || groups)) ||
+                       (query.order == Order::State && domains) ||
+                       (query.order == Order::Privileges && roles);
+  return offered ? query.order : Order::Name;
 }
 
 }  // namespace
@@ -61,7 +72,7 @@ const CollectionWindows::Window& CollectionWindows::Get(const Query& query) {
 
 std::vector<CollectionWindows::Row> CollectionWindows::Build(const Query& query) {
   const bool journal = query.collection == Collection::Journal;
-  const bool byDescription = query.order == Order::Description && HasDescription(query.collection);
+  const Order order = OrderOf(query);
   const std::string filter = FoldedText(query.filter);
   std::vector<Row> rows;
   auto row = database_.Prepare(RowsSql(query.collection));
@@ -69,10 +80,14 @@ std::vector<CollectionWindows::Row> CollectionWindows::Build(const Query& query)
   while (row->Step()) {
     std::string name = journal ? FoldedText(row->TextView(1)) : row->Text(1);
     std::string other;
-    if (byDescription || !filter.empty()) other = FoldedText(row->TextView(2));
+    if (order == Order::Description || !filter.empty()) other = FoldedText(row->TextView(2));
     if (name.find(filter) == std::string::npos && other.find(filter) == std::string::npos) continue;
+    std::string key = std::move(name);
+    if (order == Order::Description) key = std::move(other);
+    if (order == Order::Privileges) key = FoldedText(PrivilegeWords(static_cast<std::uint32_t>(row->Int(3))));
     // The journal is ordered by identifier alone.
-    rows.push_back({journal ? std::string() : byDescription ? other : name, row->Int(0)});
+    if (journal) key.clear();
+    rows.push_back({order == Order::State && row->Int(3) != 0, std::move(key), row->Int(0)});
   }
   if (query.descending || journal) {
     std::ranges::sort(rows, std::ranges::greater());

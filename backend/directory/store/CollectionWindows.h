@@ -25,6 +25,7 @@ class CollectionWindows {
 
  private:
   struct Row {
+    bool disabled;    ///< goes before the key, in the order by state
     std::string key;  ///< the folded text that it is ordered by
     ObjectId id;
     auto operator<=>(const Row&) const = default;
