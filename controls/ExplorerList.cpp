@@ -99,6 +99,12 @@ void ExplorerList::RestoreRows(std::int64_t count, SelectionKeys::Change change)
   if (changed && selectionChanged) selectionChanged();
 }
 
+void ExplorerList::RestoreSelection(const SelectionKeys& keys) {
+  keys_ = keys;
+  RestoreRows(selection_.RowCount(), SelectionKeys::Change::Contents);
+  if (selection_.Focus() >= 0) EnsureVisible(static_cast<long>(selection_.Focus()));
+}
+
 void ExplorerList::ChangeSelection(const std::function<bool(SelectionModel&)>& action) {
   const std::int64_t focus = selection_.Focus();
   const bool changed = action(selection_);

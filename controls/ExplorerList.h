@@ -37,6 +37,8 @@ class ExplorerList : public wxListCtrl {
   /// The rows have changed: their number, their order, or what they hold. Selection and focus stay with their
   /// rows; `selectionChanged` is called when the selected set became another one.
   void RestoreRows(std::int64_t count, SelectionKeys::Change change);
+  /// Selects and focuses the rows of those keys and scrolls to the focused one.
+  void RestoreSelection(const SelectionKeys& keys);
   /// Changes the selection or focus by `action` (which answers whether the selected set changed), shows it,
   /// and scrolls the focused row into view.
   void ChangeSelection(const std::function<bool(SelectionModel&)>& action);

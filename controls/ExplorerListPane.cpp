@@ -20,7 +20,6 @@ constexpr int kGap = 3;
 ExplorerListPane::ExplorerListPane(wxWindow* parent) : wxPanel(parent) {
   search_ = new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0,
                              wxDefaultValidator, "search");
-  search_->ShowCancelButton(true);
   list_ = new ExplorerList(this);
   input_ = std::make_unique<ExplorerListInput>(*list_);
   auto* sizer = new wxBoxSizer(wxVERTICAL);
@@ -60,7 +59,7 @@ void ExplorerListPane::ClearRows() {
   sortColumn_ = -1;
   sortDescending_ = false;
   filter_.clear();
-  search_->ChangeValue(wxString());
+  ShowSearchText(wxString());
   search_->Disable();
   input_->Reset();
   list_->Rows().SetSource(nullptr);
@@ -102,13 +101,14 @@ void ExplorerListPane::SetRows(std::shared_ptr<ExplorerRows> rows) {
   source.SetSource(std::move(rows));
   input_->Reset();
   filter_.clear();
-  search_->ChangeValue(wxString());
+  ShowSearchText(wxString());
   const bool canFilter = source.CanFilter();
   search_->Enable(canFilter);
   if (canFilter) source.Filter(wxString());
   sortDescending_ = false;
   sortColumn_ = -1;
-  for (int column = 0; sortColumn_ < 0 && column < static_cast<int>(columns_.size()); ++column)
+  for (int column = 0; source.StartsSorted() && sortColumn_ < 0 && column < static_cast<int>(columns_.size());
+       ++column)
     if (source.CanSort(column)) sortColumn_ = column;
   if (sortColumn_ >= 0) source.Sort(sortColumn_, false);
   ShowSortColumn();
@@ -139,9 +139,25 @@ void ExplorerListPane::OnHeading(int column) {
   SortBy(column, column == sortColumn_ && !sortDescending_);
 }
 
+void ExplorerListPane::ShowSearchText(const wxString& text) {
+  if (search_->GetValue() != text) search_->ChangeValue(text);
+  // There is only something to cancel when there is text.
+  if (search_->IsCancelButtonVisible() == text.empty()) search_->ShowCancelButton(!text.empty());
+}
+
+ExplorerListState ExplorerListPane::State() const {
+  return {filter_, sortColumn_, sortDescending_, list_->Keys()};
+}
+
+void ExplorerListPane::RestoreState(const ExplorerListState& state) {
+  FilterBy(state.filter);
+  SortBy(state.sortColumn, state.sortDescending);
+  list_->RestoreSelection(state.selection);
+}
+
 void ExplorerListPane::FilterBy(const wxString& text) {
   GuardedRows& source = list_->Rows();
-  if (search_->GetValue() != text) search_->ChangeValue(text);
+  ShowSearchText(text);
   if (text == filter_ || !source.CanFilter()) return;
   const bool narrowing = text.StartsWith(filter_);
   filter_ = text;

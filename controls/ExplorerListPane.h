@@ -10,6 +10,7 @@
 
 #include "controls/ExplorerColumn.h"
 #include "controls/ExplorerListInput.h"
+#include "controls/ExplorerListState.h"
 #include "controls/ExplorerRows.h"
 
 class wxSearchCtrl;
@@ -47,12 +48,15 @@ class ExplorerListPane : public wxPanel {
   bool SortDescending() const { return sortDescending_; }
   void FilterBy(const wxString& text);
   const wxString& FilterText() const { return filter_; }
+  ExplorerListState State() const;
+  void RestoreState(const ExplorerListState& state);
 
   std::function<void()> countChanged;
 
  private:
   void ShowColumns();
   void ShowSortColumn();
+  void ShowSearchText(const wxString& text);
   void OnHeading(int column);
   void ShowFailure(std::exception_ptr failure);
   std::vector<ExplorerRow> KeyedRows() const;

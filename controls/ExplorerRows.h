@@ -25,6 +25,9 @@ class ExplorerRows {
   /// Whether a click on that column's heading can sort.
   virtual bool CanSort(int column) const = 0;
   virtual void Sort(int column, bool descending) = 0;
+  /// Whether the list sorts the rows at first; otherwise they come in an order of their own until a heading
+  /// is clicked.
+  virtual bool StartsSorted() const { return true; }
   virtual bool CanFilter() const = 0;
   virtual void Filter(const wxString& text) = 0;
   /// First row from `from` on, then from the top, whose sorted text starts with the prefix; -1 when there is

@@ -1,5 +1,9 @@
 #include "controls/ExplorerTree.h"
 
+#include <wx/wupdlock.h>
+
+#include <vector>
+
 #include "core/ErrorHandling.h"
 
 namespace mindloft {
@@ -50,13 +54,49 @@ TreeNode* ExplorerTree::SelectedNode() const {
 TreeNode& ExplorerTree::AddNode(TreeNode* parent, const wxString& text, const wxString& key, int image,
                                 std::int32_t data) {
   TreeNode& node = nodes_.Add(parent, text, key, image, data);
-  auto* back = new NodeData(&node);
   changing_ = true;
-  const wxTreeItemId item =
-      node.parent ? AppendItem(ItemOf(*node.parent), text, image, -1, back) : AddRoot(text, image, -1, back);
+  MakeItem(node);
   changing_ = false;
-  node.item = item.GetID();
   return node;
+}
+
+void ExplorerTree::MakeItem(TreeNode& node) {
+  auto* back = new NodeData(&node);
+  if (!node.parent) {
+    node.item = AddRoot(node.text, node.image, -1, back).GetID();
+    return;
+  }
+  std::size_t place = 0;
+  for (int index = node.parent->index + 1; index < node.index; index += nodes_.At(index)->size) ++place;
+  const wxTreeItemId parent = ItemOf(*node.parent);
+  const auto item = place < GetChildrenCount(parent, false)
+                        ? InsertItem(parent, place, node.text, node.image, -1, back)
+                        : AppendItem(parent, node.text, node.image, -1, back);
+  node.item = item.GetID();
+}
+
+void ExplorerTree::MoveNode(TreeNode& node, TreeNode* before) {
+  if (!node.parent || before == &node || (before && before->parent != node.parent)) return;
+  const int former = node.index;
+  TreeNode* selected = SelectedNode();
+  std::vector<TreeNode*> moved, expanded;
+  for (int index = node.index; index < node.index + node.size; ++index) {
+    moved.push_back(nodes_.At(index));
+    if (IsNodeExpanded(*moved.back())) expanded.push_back(moved.back());
+  }
+  nodes_.Move(node, before);
+  if (node.index == former) return;
+  changing_ = true;
+  // A native tree knows no moving.
+  const wxWindowUpdateLocker locker(this);
+  const bool inside = TreeNodes::IsWithin(selected, node);
+  if (inside) SelectItem(ItemOf(*node.parent));
+  Delete(ItemOf(node));
+  for (TreeNode* each : moved) MakeItem(*each);
+  for (TreeNode* each : expanded) ExpandNode(*each);
+  if (inside) SelectItem(ItemOf(*selected));
+  changing_ = false;
+  NoticeSelection();
 }
 
 void ExplorerTree::RemoveNode(TreeNode& node) {

@@ -20,6 +20,8 @@ class ExplorerTree : public wxTreeCtrl {
                     std::int32_t data);
   /// When the selected node goes, its parent becomes the selected one.
   void RemoveNode(TreeNode& node);
+  /// Before a sibling; nothing: to the end. Selection and expansion stay.
+  void MoveNode(TreeNode& node, TreeNode* before);
   void ClearNodes();
   void ShowText(TreeNode& node, const wxString& text);
   void ShowImage(TreeNode& node, int image);
@@ -37,6 +39,8 @@ class ExplorerTree : public wxTreeCtrl {
   static wxTreeItemId ItemOf(const TreeNode& node) { return wxTreeItemId(node.item); }
   /// Calls `changed` when another node is selected than was at the last call.
   void NoticeSelection();
+  /// Makes the native item of a node whose place among the nodes is settled.
+  void MakeItem(TreeNode& node);
   void ShowMenu(TreeNode* node, wxPoint screen);
 
   TreeNodes nodes_;

@@ -22,6 +22,7 @@ class GuardedRows : public ExplorerRows {
   std::vector<ExplorerRow> Page(std::int64_t first, std::int64_t count) override;
   bool CanSort(int column) const override;
   void Sort(int column, bool descending) override;
+  bool StartsSorted() const override { return !source_ || source_->StartsSorted(); }
   bool CanFilter() const override;
   void Filter(const wxString& text) override;
   std::int64_t FindPrefix(const wxString& prefix, std::int64_t from) override;

@@ -1,5 +1,7 @@
 #include "controls/TreeNodes.h"
 
+#include <algorithm>
+
 namespace mindloft {
 
 TreeNode* TreeNodes::At(int index) const {
@@ -28,6 +30,18 @@ void TreeNodes::Remove(TreeNode& node) {
   for (TreeNode* each = node.parent; each; each = each->parent) each->size -= size;
   nodes_.erase(nodes_.begin() + index, nodes_.begin() + index + size);
   Renumber(index);
+}
+
+void TreeNodes::Move(TreeNode& node, const TreeNode* before) {
+  const int target = before ? before->index : node.parent->index + node.parent->size;
+  const auto begin = nodes_.begin();
+  const int end = node.index + node.size;
+  const int from = std::min(node.index, target);
+  if (target < node.index)
+    std::rotate(begin + target, begin + node.index, begin + end);
+  else if (target > end)
+    std::rotate(begin + node.index, begin + end, begin + target);
+  Renumber(from);
 }
 
 void TreeNodes::Renumber(int from) {

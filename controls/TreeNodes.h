@@ -32,6 +32,8 @@ class TreeNodes {
   TreeNode& Add(TreeNode* parent, const wxString& text, const wxString& key, int image, std::int32_t data);
   /// Removes the node and everything below it.
   void Remove(TreeNode& node);
+  /// Moves the node with everything below it before a sibling; nothing: to the end of its parent's children.
+  void Move(TreeNode& node, const TreeNode* before);
   void Clear() { nodes_.clear(); }
   /// The first node of that key below `parent` (nothing: anywhere).
   TreeNode* Find(const wxString& key, const TreeNode* parent) const;

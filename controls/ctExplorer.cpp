@@ -127,6 +127,13 @@ void ctExplorer::RemoveTreeNode(int index) {
   if (TreeNode* node = impl_->Node(index)) impl_->tree->RemoveNode(*node);
 }
 
+int ctExplorer::MoveTreeNode(int index, int before) {
+  TreeNode* node = impl_->Node(index);
+  if (!node) return -1;
+  impl_->tree->MoveNode(*node, impl_->Node(before));
+  return node->index;
+}
+
 int ctExplorer::TreeNodeCount() const {
   return impl_->tree ? impl_->tree->Nodes().Count() : 0;
 }
@@ -268,6 +275,14 @@ void ctExplorer::SetFilter(const wxString& text) {
 
 wxString ctExplorer::Filter() const {
   return impl_->pane->FilterText();
+}
+
+ExplorerListState ctExplorer::ListState() const {
+  return impl_->pane->State();
+}
+
+void ctExplorer::RestoreList(const ExplorerListState& state) {
+  impl_->pane->RestoreState(state);
 }
 
 void ctExplorer::SetSearchHint(const wxString& hint) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/ExplorerColumn.h"
+#include "controls/ExplorerListState.h"
 #include "controls/ExplorerRows.h"
 
 class wxBitmapBundle;
@@ -37,6 +38,9 @@ class ctExplorer : public wxPanel {
   /// Adds the last child of `parent` (-1: the root) and returns its index.
   int AddTreeNode(int parent, const wxString& text, const wxString& key, int image, std::int32_t data = 0);
   void RemoveTreeNode(int index);
+  /// Moves a node with all below it before a sibling (-1: to the end) and returns its new index. Selection
+  /// and expansion stay, and no event is raised.
+  int MoveTreeNode(int index, int before);
   int TreeNodeCount() const;
   wxString TreeNodeText(int index) const;
   void SetTreeNodeText(int index, const wxString& text);
@@ -82,6 +86,9 @@ class ctExplorer : public wxPanel {
   bool SortDescending() const;
   void SetFilter(const wxString& text);
   wxString Filter() const;
+  /// The present filter, order and selection, and the same again for a list of the same columns.
+  ExplorerListState ListState() const;
+  void RestoreList(const ExplorerListState& state);
   void SetSearchHint(const wxString& hint);
   void FocusSearch();
   void FocusList();

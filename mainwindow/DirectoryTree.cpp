@@ -63,11 +63,18 @@ void DirectoryTree::AddDomain(const std::shared_ptr<Corvane::DomainContext>& con
 }
 
 void DirectoryTree::UpdateDomain(const std::shared_ptr<Corvane::DomainContext>& context) {
-  const int index = DomainNode(DomainContexts::KeyOf(*context));
-  if (index < 0) return AddDomain(context);
-  area_.Explorer().SetTreeNodeText(index, ToWx(context->KDomain()->Name()));
-  area_.Explorer().SetTreeNodeImage(index, DomainImageOf(*context));
-  context->SetNodeId(area_.Explorer().TreeNodeData(index));
+  auto& explorer = area_.Explorer();
+  const wxString key = DomainContexts::KeyOf(*context);
+  const int index = DomainNode(key);
+  if (index < 0) {
+    AddDomain(context);
+  } else {
+    explorer.SetTreeNodeText(index, ToWx(context->KDomain()->Name()));
+    explorer.SetTreeNodeImage(index, DomainImageOf(*context));
+    context->SetNodeId(explorer.TreeNodeData(index));
+  }
+  const wxString next = domains_.KeyAfter(key);
+  explorer.MoveTreeNode(DomainNode(key), next.empty() ? -1 : DomainNode(next));
 }
 
 void DirectoryTree::RemoveDomain(const wxString& key) {

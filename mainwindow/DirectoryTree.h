@@ -29,7 +29,8 @@ class DirectoryTree {
 
   /// Adds the node of one domain as the last.
   void AddDomain(const std::shared_ptr<Corvane::DomainContext>& context);
-  /// Shows name and image of a domain that is in the tree already; adds it otherwise.
+  /// Shows name and image of a domain that is in the tree already; adds it otherwise. Either way its place is
+  /// that among the domains.
   void UpdateDomain(const std::shared_ptr<Corvane::DomainContext>& context);
   void RemoveDomain(const wxString& key);
   /// The captions of all fixed nodes in the current language.

@@ -27,11 +27,17 @@ class DomainContexts {
   std::shared_ptr<Corvane::DomainContext> Stored(const wxString& key) const;
   /// Adds the context, or replaces the one of its key, and returns the key.
   wxString Put(const std::shared_ptr<Corvane::DomainContext>& context);
+  /// The same for one domain that was made or changed: its key takes its place in the collection's order.
+  void Update(const std::shared_ptr<Corvane::DomainContext>& context);
+  /// The key after that one; empty: it is the last or unknown.
+  wxString KeyAfter(const wxString& key) const;
   void Remove(const wxString& key);
 
   static wxString KeyOf(const Corvane::DomainContext& context);
 
  private:
+  wxString StoredAfter(const wxString& key) const;
+
   std::shared_ptr<Corvane::KDomains> domains_;
   std::vector<wxString> keys_;
   std::map<wxString, std::shared_ptr<Corvane::DomainContext>> contexts_;

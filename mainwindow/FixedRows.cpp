@@ -13,6 +13,14 @@ std::vector<ExplorerRow> FixedRows::Page(std::int64_t first, std::int64_t count)
   return {shown_.begin() + begin, shown_.begin() + end};
 }
 
+void FixedRows::Sort(int, bool descending) {
+  for (auto* rows : {&rows_, &shown_})
+    std::stable_sort(rows->begin(), rows->end(), [descending](const ExplorerRow& a, const ExplorerRow& b) {
+      const int order = a.fields.CmpNoCase(b.fields);
+      return descending ? order > 0 : order < 0;
+    });
+}
+
 void FixedRows::Filter(const wxString& text) {
   shown_.clear();
   const wxString sought = text.Lower();

@@ -4,7 +4,8 @@
 
 namespace mindloft {
 
-/// A short list of rows in a given order: the folders below a node. It can be filtered, not sorted.
+/// A short list of rows of one field: the folders below a node. Their order at first is the given
+/// one.
 class FixedRows : public ExplorerRows {
  public:
   explicit FixedRows(std::vector<ExplorerRow> rows);
@@ -12,8 +13,9 @@ class FixedRows : public ExplorerRows {
   std::int64_t Count() override { return static_cast<std::int64_t>(shown_.size()); }
   std::int64_t TotalCount() override { return static_cast<std::int64_t>(rows_.size()); }
   std::vector<ExplorerRow> Page(std::int64_t first, std::int64_t count) override;
-  bool CanSort(int) const override { return false; }
-  void Sort(int, bool) override {}
+  bool CanSort(int column) const override { return column == 0; }
+  void Sort(int column, bool descending) override;
+  bool StartsSorted() const override { return false; }
   bool CanFilter() const override { return true; }
   void Filter(const wxString& text) override;
   std::int64_t FindPrefix(const wxString& prefix, std::int64_t from) override;

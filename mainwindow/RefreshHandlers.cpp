@@ -49,7 +49,7 @@ void RefreshHandlers::RefreshDomainNode(std::int32_t action, const std::any& obj
   if (action == static_cast<std::int32_t>(ObjectAction::Deleted)) {
     DomainDeleted(key);
   } else if (const auto stored = domains_.Stored(key)) {
-    domains_.Put(stored);
+    domains_.Update(stored);
     form_.Tree().UpdateDomain(stored);
   }
   RefreshListOf(keys::kDomains);

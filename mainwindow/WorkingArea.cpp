@@ -7,6 +7,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "controls/ctExplorer.h"
+#include "mainwindow/FormKey.h"
 #include "mainwindow/Images.h"
 #include "mainwindow/RecordRows.h"
 #include "mainwindow/Texts.h"
@@ -15,7 +16,6 @@ namespace mindloft {
 
 namespace {
 
-constexpr const char* kFormKey = "software\\Ordwell\\Mindloft\\Resource\\FormPos\\frmSysAdmin";
 constexpr const char* kBorder = "Border";
 /// What is left to the tree and the list, in pixels at 96 dpi, however far the border was moved.
 constexpr int kLeastWidth = 60;

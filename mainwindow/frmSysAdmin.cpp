@@ -14,6 +14,7 @@
 #include "core/forms/Form.h"
 #include "core/modShare.h"
 #include "mainwindow/ApplicationServices.h"
+#include "mainwindow/BarMemory.h"
 #include "mainwindow/BusyFlag.h"
 #include "mainwindow/CommandLineState.h"
 #include "mainwindow/CommandSet.h"
@@ -89,6 +90,7 @@ void frmSysAdmin::Form_Load(bool startWithNode) try {
   Explorer().ExpandTreeNode(0);
   Explorer().SelectTreeNode(0);
   area_->LoadBorder();
+  LoadBars(*toolBar_, *statusBar_);
   ShowUser();
   Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Timer1_Timer(); });
   Bind(wxEVT_CLOSE_WINDOW, &frmSysAdmin::Form_Unload, this);
@@ -113,6 +115,7 @@ void frmSysAdmin::Form_Unload(wxCloseEvent& event) try {
   // In full screen the position from before it has been saved already.
   if (!IsFullScreen()) SetFormPos(*this);
   area_->SaveBorder();
+  SaveBars(*toolBar_, *statusBar_);
   Destroy();
 } catch (...) {
   ShowError("frmSysAdmin", "Form_Unload");
@@ -170,7 +173,7 @@ void frmSysAdmin::LoadInfoOnForm() try {
   if (!GetMenuBar()) return;
   InitMenu();
   tree_->ReloadCaptions();
-  ReloadList();
+  ReloadList(Explorer().ListState());
   ShowUser();
 } catch (...) {
   mindloft::Raise("frmSysAdmin", "LoadInfoOnForm");
@@ -178,6 +181,7 @@ void frmSysAdmin::LoadInfoOnForm() try {
 
 void frmSysAdmin::RebuildArea() {
   const auto state = tree_->Remember();
+  const auto list = Explorer().ListState();
   {
     const BusyFlag busy(busy_);
     ApplyLayoutDirection(*this);
@@ -190,22 +194,14 @@ void frmSysAdmin::RebuildArea() {
     tree_->DisplayTreeDomains();
     tree_->Restore(state);
   }
-  ctMainForm_trChange(GetTreeNodeIndex());
+  ReloadList(list);
   ShowUser();
 }
 
-void frmSysAdmin::ReloadList() {
-  auto& explorer = Explorer();
-  const wxString filter = explorer.Filter();
-  const int column = explorer.SortColumn();
-  const bool descending = explorer.SortDescending();
-  const auto row = explorer.FocusedListRow();
-  const wxString key = row >= 0 ? explorer.ListRow(row).key : wxString();
+void frmSysAdmin::ReloadList(const ExplorerListState& state) {
   ctMainForm_trChange(GetTreeNodeIndex());
-  if (!filter.empty()) explorer.SetFilter(filter);
-  if (column >= 0) explorer.SortBy(column, descending);
-  if (const auto position = key.empty() ? -1 : lists_->PositionOf(key); position >= 0)
-    explorer.SelectListRow(position);
+  Explorer().RestoreList(state);
+  UpdateCommands();
 }
 
 void frmSysAdmin::InitMenu() try {

@@ -15,6 +15,7 @@ namespace mindloft {
 class CommandSet;
 class ctExplorer;
 struct DirectoryKind;
+struct ExplorerListState;
 class DirectoryLists;
 class DirectoryTree;
 class DomainContexts;
@@ -98,7 +99,8 @@ class frmSysAdmin : public wxFrame {
   void BuildTree();
   /// Shows everything in the direction and language of now, selection and list as they were.
   void RebuildArea();
-  void ReloadList();
+  /// Shows the selected node's list anew, arranged like that.
+  void ReloadList(const ExplorerListState& state);
   void ShowPendingCounts();
   void RunCommand(const wxString& name);
   void ShowContextMenu(const DirectoryKind* listed, wxPoint screen, bool ofList);
