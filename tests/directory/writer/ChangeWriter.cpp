@@ -1,8 +1,10 @@
 // Makes users "w0", "w1", ... in the directory file named first, as many as the second argument says, and
 // prints each name when its call has returned.
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <thread>
 
 #include "backend/directory/SqliteDirectory.h"
 #include "backend/errors/Error.h"
@@ -19,6 +21,8 @@ int main(int count, char** arguments) {
       directory->CreateUser(session, user, "");
       std::printf("%s\n", user.name.c_str());
       std::fflush(stdout);
+      // Another console that writes gets its turn.
+      std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
     return 0;
   } catch (const Error& error) {
