@@ -2,6 +2,7 @@
 
 #include <wx/sizer.h>
 #include <wx/srchctrl.h>
+#include <wx/textctrl.h>
 
 #include "controls/ExplorerList.h"
 #include "core/ErrorHandling.h"
@@ -20,6 +21,9 @@ constexpr int kGap = 3;
 ExplorerListPane::ExplorerListPane(wxWindow* parent) : wxPanel(parent) {
   search_ = new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0,
                              wxDefaultValidator, "search");
+  // Where the toolkit makes the box of parts, a mirrored part loses its picture.
+  for (wxWindow* part : search_->GetChildren())
+    if (!dynamic_cast<wxTextEntry*>(part)) part->SetLayoutDirection(wxLayout_LeftToRight);
   list_ = new ExplorerList(this);
   input_ = std::make_unique<ExplorerListInput>(*list_);
   auto* sizer = new wxBoxSizer(wxVERTICAL);
