@@ -145,8 +145,9 @@ void ExplorerListPane::OnHeading(int column) {
 
 void ExplorerListPane::ShowSearchText(const wxString& text) {
   if (search_->GetValue() != text) search_->ChangeValue(text);
-  // There is only something to cancel when there is text.
-  if (search_->IsCancelButtonVisible() == text.empty()) search_->ShowCancelButton(!text.empty());
+  // There is only something to cancel when there is text; a box that is not made of parts knows that itself.
+  const bool useful = search_->GetChildren().empty() || !text.empty();
+  if (search_->IsCancelButtonVisible() != useful) search_->ShowCancelButton(useful);
 }
 
 ExplorerListState ExplorerListPane::State() const {
