@@ -48,6 +48,8 @@ if(WIN32)
   add_library(mindloft_glib INTERFACE)
 else()
   find_package(PkgConfig REQUIRED)
+  # Of the toolkit's libraries only those that are used are loaded at start.
+  add_link_options(-Wl,--as-needed)
   find_package(wxWidgets REQUIRED COMPONENTS richtext xrc html adv core net xml base)
   add_library(mindloft_wx INTERFACE)
   target_include_directories(mindloft_wx SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})

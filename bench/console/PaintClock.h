@@ -21,13 +21,13 @@ class PaintClock {
 
   /// Runs the action, serves events until nothing was painted for `quietMs`, and returns the time from the
   /// action's begin to the end of the last frame, in milliseconds.
-  double Measure(const std::function<void()>& action, double quietMs = 150);
+  double Measure(const std::function<void()>& action, double quietMs = 100);
 
   /// Whether a frame was painted since the clock began to watch.
   bool HasPainted() const { return lastPaint_ > 0; }
 
   /// Serves events until nothing was painted for that long.
-  void Settle(double quietMs = 150);
+  void Settle(double quietMs = 100);
 
  private:
   static void AfterPaint(void* clock, void* self);
