@@ -7,6 +7,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "mainwindow/Texts.h"
+#include "platform/ui/StatusBar.h"
 
 namespace mindloft {
 
@@ -24,12 +25,14 @@ void MainStatusBar::Build() {
     frame_.SetStatusBar(nullptr);
     old->Destroy();
   }
-  auto* bar = frame_.CreateStatusBar(FieldCount, wxSTB_DEFAULT_STYLE, wxID_ANY, "sbrMain");
+  auto* bar = platform::NewStatusBar(frame_, "sbrMain");
+  bar->SetFieldsCount(FieldCount);
   const int widths[] = {-3, -2, -2};
   bar->SetStatusWidths(FieldCount, widths);
   // Menu tips would cover who is logged in.
   frame_.SetStatusBarPane(-1);
   for (int field = 0; field < FieldCount; ++field) bar->SetStatusText(kept[field], field);
+  frame_.SetStatusBar(bar);
   if (!shown) Show(false);
 }
 
