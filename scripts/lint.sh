@@ -6,8 +6,8 @@ scripts/packages.sh lint
 git ls-files -z -- '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werror
 [ "${1-}" != --format-only ] || exit 0
 scripts/build.sh linux-asan
-# The generated sources of embedded files are data.
-git ls-files -z -- '*.cpp' ':!:*/windows/*' ':!:bench/*' |
-  xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/linux-asan --quiet --warnings-as-errors='*' 2>&1 |
+# Windows' sources need its headers; tests are checked by running them.
+git ls-files -z -- '*.cpp' ':!:*/windows/*' ':!:bench/*' ':!:tests/*' |
+  xargs -0 -n 4 -P "$(nproc)" clang-tidy-16 -p build/linux-asan --quiet --extra-arg=-Wno-unknown-warning-option --warnings-as-errors='*' 2>&1 |
   { grep -vE '^[0-9]+ warnings? generated|^$' || true; }
 exit "${PIPESTATUS[0]}"

@@ -10,7 +10,7 @@ test="$build $screen procps"
 run="$build $screen"
 windows="$test g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libgcrypt-mingw-w64-dev wine wine64 tcl dpkg-dev
   debian-archive-keyring ca-certificates wixl"
-lint="$build clang-format clang-tidy git"
+lint="$build clang-format clang-tidy-16 git"
 
 wanted=
 for task in "$@"; do
