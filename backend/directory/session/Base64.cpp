@@ -30,7 +30,10 @@ std::optional<std::string> FromBase64(std::string_view text) {
     auto digit = kDigits.find(c);
     if (digit == std::string_view::npos) return {};
     bits = bits << 6 | static_cast<std::uint32_t>(digit);
-    if ((count += 6) >= 8) bytes += static_cast<char>(bits >> (count -= 8) & 255);
+    count += 6;
+    if (count < 8) continue;
+    count -= 8;
+    bytes += static_cast<char>(bits >> count & 255);
   }
   return bytes;
 }
