@@ -1,5 +1,6 @@
 #include "app/ConsoleApp.h"
 
+#include <wx/dcmemory.h>
 #include <wx/image.h>
 #include <wx/msgout.h>
 
@@ -61,6 +62,8 @@ bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
 
 bool ConsoleApp::OnInit() try {
   delete wxLog::SetActiveTarget(new LogTarget);
+  // A device context makes the toolkit begin to load its fonts, which it does beside the login.
+  wxMemoryDC();
   wxImage::AddHandler(new wxPNGHandler);
   SetAppDisplayName(GetResource().GetString(kApplicationTitle));
   SetHelpAction(ShowHelp);

@@ -130,6 +130,7 @@ wxString Resource::GetFormatString(int number, const std::vector<wxString>& para
   // A name or a time must not be torn apart by the direction of the words around it: each stands in a first
   // strong isolate of its own.
   std::vector<wxString> isolated;
+  isolated.reserve(parameters.size());
   for (const auto& parameter : parameters) {
     isolated.push_back(wxString(wxUniChar(0x2068)) + parameter + wxUniChar(0x2069));
   }

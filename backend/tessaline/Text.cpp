@@ -1,6 +1,7 @@
 #include "backend/tessaline/Text.h"
 
 #include <algorithm>
+#include <type_traits>
 
 namespace mindloft {
 namespace {
@@ -44,7 +45,7 @@ bool IsLowSurrogate(std::uint32_t unit) {
 wxString WithoutLoneSurrogates(const wxString& text) {
   std::wstring units = text.ToStdWstring();
   for (std::size_t at = 0; at < units.size(); ++at) {
-    auto unit = static_cast<std::uint32_t>(units[at]);
+    auto unit = static_cast<std::make_unsigned_t<wchar_t>>(units[at]);
     bool paired = sizeof(wchar_t) == 2 && IsHighSurrogate(unit) && at + 1 < units.size() &&
                   IsLowSurrogate(static_cast<std::uint32_t>(units[at + 1]));
     if (paired) {

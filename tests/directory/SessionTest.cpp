@@ -108,7 +108,7 @@ TEST(PasswordHashTest, KnowsItsFormatAndItsCost) {
   const std::string own = HashPassword(
       "pass\xC3\xB6"
       "words");
-  EXPECT_EQ(own.rfind("$argon2id$v=19$m=19456,t=2,p=1$", 0), 0u);
+  EXPECT_EQ(own.rfind("$argon2id$v=19$m=7168,t=5,p=1$", 0), 0u);
   EXPECT_TRUE(
       PasswordFits("pass\xC3\xB6"
                    "words",
@@ -118,7 +118,7 @@ TEST(PasswordHashTest, KnowsItsFormatAndItsCost) {
                               "words"));
   for (const char* broken :
        {"", "x", "$argon2id$v=19$m=4294967295,t=2,p=1$c29tZXNhbHQ$CTFhFdXPJO1aFaMaO6Mm5Q",
-        "$argon2id$v=19$m=19456,t=2,p=1$c29tZXNhbHQ$", "$argon2id$v=19$m=8,t=0,p=1$!$!"}) {
+        "$argon2id$v=19$m=7168,t=5,p=1$c29tZXNhbHQ$", "$argon2id$v=19$m=8,t=0,p=1$!$!"}) {
     EXPECT_FALSE(PasswordFits("", broken)) << broken;
   }
 }
@@ -129,7 +129,7 @@ TEST_F(SessionTest, RenewsADatedHashAtLogin) {
   AddUser("old");
   Sql("UPDATE user SET password = '" + dated + "' WHERE name = 'old'");
   for (int i = 0; i < 2; ++i) directory_->Login("old", "password");
-  EXPECT_EQ(SqlText("SELECT password FROM user WHERE name = 'old'").rfind("$argon2id$v=19$m=19456,", 0), 0u);
+  EXPECT_EQ(SqlText("SELECT password FROM user WHERE name = 'old'").rfind("$argon2id$v=19$m=7168,", 0), 0u);
 }
 
 TEST_F(SessionTest, RequiresPasswordsOfSomeLength) {

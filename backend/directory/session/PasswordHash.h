@@ -6,7 +6,7 @@
 namespace mindloft {
 
 /// A salted Argon2id hash of the password with the present cost, in the PHC string format
-/// ("$argon2id$v=19$m=19456,t=2,p=1$salt$hash").
+/// ("$argon2id$v=19$m=7168,t=5,p=1$salt$hash").
 std::string HashPassword(std::string_view password);
 
 /// Whether the password belongs to the stored hash. An empty or unreadable one never fits, after the same
