@@ -6,6 +6,7 @@
 
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/Images.h"
+#include "platform/ui/Direction.h"
 
 namespace mindloft {
 
@@ -38,6 +39,7 @@ void MainToolBar::Build() {
                  LoadImage(command->icon, kToolSize), CommandSet::Tip(name));
   }
   bar->Realize();
+  platform::ApplyDirectionInside(*bar);
   if (!shown) Show(false);
 }
 
