@@ -63,7 +63,7 @@ bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
 bool ConsoleApp::OnInit() try {
   delete wxLog::SetActiveTarget(new LogTarget);
   // A device context makes the toolkit begin to load its fonts, which it does beside the login.
-  wxMemoryDC();
+  const wxMemoryDC fontsWanted;
   wxImage::AddHandler(new wxPNGHandler);
   SetAppDisplayName(GetResource().GetString(kApplicationTitle));
   SetHelpAction(ShowHelp);

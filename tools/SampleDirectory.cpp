@@ -142,7 +142,7 @@ bool Exists(const std::filesystem::path& file) {
 std::string MakeSampleDirectory(const std::filesystem::path& file, const SampleOptions& options) {
   if (!options.overwrite && Exists(file)) throw Error(ErrorNumber::DirectoryExists);
   const auto unfinished = Beside(file, ".unfinished");
-  const auto password = NewPassword();
+  auto password = NewPassword();
   try {
     SqliteDirectory::Create(unfinished, {kAdministrator, password}, true);
     Filler(unfinished, options, ReadBeginning(unfinished, password)).Fill();
