@@ -14,7 +14,7 @@ class Utf8Console {
   Utf8Console& operator=(const Utf8Console&) = delete;
 
  private:
-  unsigned before_ = 0;
+  [[maybe_unused]] unsigned before_ = 0;
 };
 
 /// Writes the text (UTF-8) to the process's standard output. False when it has none, as a program with
