@@ -23,8 +23,11 @@ number=$(cat "$folder/number")
 export DISPLAY=":$number"
 openbox --sm-disable >/dev/null 2>&1 &
 manager=$!
-for _ in $(seq 100); do
+for _ in $(seq 300); do
   xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+  kill -0 "$manager" 2>/dev/null || { echo "the window manager ended" >&2; exit 1; }
   sleep 0.05
 done
+# There is no desktop here whose accessibility service could be asked.
+export NO_AT_BRIDGE=1
 "$@"
