@@ -1,6 +1,6 @@
 # One target per room, so that a wrong include does not link.
 
-# mindloft_room(NAME [FOLDER dir...] [LINK target...]): a static library of this folder's sources.
+# mindloft_room(NAME [SOURCES file...] [LINK target...]): a static library of this folder's sources.
 # Sources for one platform lie in windows/ or linux/ below it.
 function(mindloft_room name)
   cmake_parse_arguments(ROOM "" "" "LINK;SOURCES" ${ARGN})
@@ -50,16 +50,18 @@ function(mindloft_embed target prefix)
   add_dependencies(${target} ${target}_${prefix}_embedded)
 endfunction()
 
-# mindloft_tests(ROOM [GUI] [LINK target...]): the program ROOM_tests of this folder's sources, run by ctest.
-# Tests for one platform lie in windows/ or linux/ below it.
+# mindloft_tests(ROOM [GUI] [FOLDERS folder...] [LINK target...]): the program ROOM_tests of this folder's sources and
+# those of the folders below it that are named, run by ctest. Tests for one platform lie in windows/ or linux/ below it.
 # Each program is one test; a GUI one runs on a display of its own, so that no other test takes its focus.
 function(mindloft_tests room)
-  cmake_parse_arguments(TESTS "GUI" "" "LINK" ${ARGN})
+  cmake_parse_arguments(TESTS "GUI" "" "FOLDERS;LINK" ${ARGN})
   if(WIN32)
-    file(GLOB sources CONFIGURE_DEPENDS *.cpp windows/*.cpp)
+    list(APPEND TESTS_FOLDERS windows)
   else()
-    file(GLOB sources CONFIGURE_DEPENDS *.cpp linux/*.cpp)
+    list(APPEND TESTS_FOLDERS linux)
   endif()
+  list(TRANSFORM TESTS_FOLDERS APPEND "/*.cpp" OUTPUT_VARIABLE below)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp ${below})
   set(target ${room}_tests)
   if(NOT sources)
     return()

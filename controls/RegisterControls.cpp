@@ -1,6 +1,6 @@
 #include "controls/RegisterControls.h"
 
-#include "controls/ExplorerXmlHandler.h"
+#include "controls/explorer/ExplorerXmlHandler.h"
 #include "core/forms/Form.h"
 
 namespace mindloft {

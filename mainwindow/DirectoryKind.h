@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "controls/ExplorerRows.h"
+#include "controls/explorer/ExplorerRows.h"
 
 namespace mindloft {
 

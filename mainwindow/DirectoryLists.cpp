@@ -4,7 +4,7 @@
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "core/ErrorHandling.h"
 #include "mainwindow/DirectoryTree.h"
 #include "mainwindow/FixedRows.h"

@@ -3,7 +3,7 @@
 #include "backend/corvane/DomainContext.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "core/ErrorHandling.h"
 #include "core/modShare.h"
 #include "mainwindow/DomainContexts.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/ExplorerRows.h"
+#include "controls/explorer/ExplorerRows.h"
 
 namespace mindloft {
 

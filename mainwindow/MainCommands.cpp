@@ -4,7 +4,7 @@
 #include <wx/textctrl.h>
 
 #include "backend/tessaline/Services.h"
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "mainwindow/ApplicationServices.h"
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/MainStatusBar.h"

@@ -6,7 +6,7 @@
 
 #include "backend/corvane/View.h"
 #include "backend/tessaline/Text.h"
-#include "controls/ExplorerRows.h"
+#include "controls/explorer/ExplorerRows.h"
 
 namespace mindloft {
 

@@ -2,7 +2,7 @@
 
 #include "backend/corvane/Corvane.h"
 #include "backend/tessaline/Text.h"
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "core/ErrorHandling.h"
 #include "core/Refresh.h"
 #include "mainwindow/DirectoryTree.h"

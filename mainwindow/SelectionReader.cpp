@@ -1,6 +1,6 @@
 #include "mainwindow/SelectionReader.h"
 
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "mainwindow/DirectoryLists.h"
 #include "mainwindow/DirectoryTree.h"
 #include "mainwindow/DomainContexts.h"

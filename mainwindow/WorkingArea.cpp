@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "backend/tessaline/Services.h"
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "mainwindow/FormKey.h"
 #include "mainwindow/Images.h"
 #include "mainwindow/RecordRows.h"

@@ -1,7 +1,7 @@
 #include <wx/app.h>
 
 #include "app/frmHidden.h"
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "core/modShare.h"
 #include "mainwindow/ApplicationServices.h"
 #include "mainwindow/CommandLineState.h"

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "backend/corvane/Corvane.h"
-#include "controls/ctExplorer.h"
+#include "controls/explorer/ctExplorer.h"
 #include "mainwindow/frmSysAdmin.h"
 #include "tests/support/gui/PrivateServices.h"
 

@@ -1,0 +1,82 @@
+#include "controls/explorer/SelectionKeys.h"
+
+#include <algorithm>
+
+namespace mindloft {
+
+void SelectionKeys::Update(const SelectionModel& selection, RowCache& cache, ExplorerRows& rows) {
+  const std::int64_t selected = selection.Selected().Count();
+  const std::int64_t others = selection.RowCount() - selected;
+  anything_ = selected > 0;
+  everything_ = selection.AllSelected();
+  complement_ = !everything_ && selected > kLimit && others <= kLimit;
+  overflow_ = !complement_ && selected > kLimit;
+  if (overflow_)
+    keys_.clear();
+  else
+    Track(complement_ ? selection.Selected().Complement(selection.RowCount()) : selection.Selected(), cache,
+          rows);
+
+  // A source that fails, or rows that have vanished, leave gaps.
+  complete_ = !overflow_ && !complement_ && static_cast<std::int64_t>(keys_.size()) == selected;
+
+  focus_ = selection.Focus();
+  const ExplorerRow* focused = cache.Find(focus_);
+  focusKey_ = focused ? focused->key : wxString();
+}
+
+void SelectionKeys::Track(const RowRanges& tracked, RowCache& cache, ExplorerRows& rows) {
+  std::vector<KeyedRow> known;
+  known.swap(keys_);
+  keys_.reserve(static_cast<std::size_t>(tracked.Count()));
+  auto old = known.begin();
+  for (const RowRange& range : tracked.Ranges()) {
+    for (std::int64_t row = range.first; row <= range.last; ++row) {
+      while (old != known.end() && old->first < row) ++old;
+      if (old != known.end() && old->first == row) {
+        keys_.emplace_back(row, std::move(old->second));
+        continue;
+      }
+      if (const ExplorerRow* cached = cache.Peek(row)) {
+        keys_.emplace_back(row, cached->key);
+        continue;
+      }
+      // One question up to the next row that is known, not one per row.
+      const std::int64_t end = old == known.end() ? range.last : std::min(range.last, old->first - 1);
+      const std::vector<ExplorerRow> page = rows.Page(row, end - row + 1);
+      for (std::size_t i = 0; i < page.size() && row + static_cast<std::int64_t>(i) <= end; ++i)
+        keys_.emplace_back(row + static_cast<std::int64_t>(i), page[i].key);
+      row = end;
+    }
+  }
+}
+
+bool SelectionKeys::Restore(SelectionModel& selection, ExplorerRows& rows, std::int64_t count,
+                            Change change) const {
+  const bool sameRows = change == Change::Order || change == Change::Contents;
+  const bool allStay = everything_ && change != Change::Widening;
+  std::int64_t focus = focusKey_.empty() ? -1 : rows.PositionOf(focusKey_);
+  if (focus < 0 && focus_ >= 0 && change == Change::Contents) focus = std::min(focus_, count - 1);
+
+  RowRanges next;
+  std::size_t found = 0;
+  if (!allStay && !overflow_ && (!complement_ || sameRows)) {
+    std::vector<std::int64_t> positions;
+    for (const KeyedRow& keyed : keys_) {
+      const std::int64_t position = rows.PositionOf(keyed.second);
+      if (position >= 0) positions.push_back(position);
+    }
+    found = positions.size();
+    next = RowRanges::FromRows(std::move(positions));
+  }
+  if (allStay || (complement_ && sameRows)) next = next.Complement(count);
+
+  const std::int64_t before = selection.Selected().Count();
+  selection.Reset(count);
+  selection.Assign(std::move(next), focus);
+  // The same rows at other places are the same selection.
+  const bool allFound = Complete() && found == keys_.size();
+  return !(allFound || (allStay && before == count) || !anything_);
+}
+
+}  // namespace mindloft
