@@ -1,0 +1,64 @@
+#include "gallery/GalleryApp.h"
+
+#include <wx/cmdline.h>
+#include <wx/image.h>
+
+#include "backend/tessaline/Services.h"
+#include "core/ErrorHandling.h"
+#include "gallery/frmControls.h"
+#include "platform/RegistryStore.h"
+
+namespace mindloft {
+
+GalleryApp::GalleryApp() {
+  SetAppName("mindloft-controls");
+  SetAppDisplayName("Mindloft controls");
+  ServiceOverrides overrides;
+  overrides.registry = platform::MemoryRegistry();
+  ResetServices(std::move(overrides));
+}
+
+bool GalleryApp::OnInit() try {
+  if (!wxApp::OnInit()) return false;
+  wxImage::AddHandler(new wxPNGHandler);
+  (new frmControls)->Show();
+  return true;
+} catch (...) {
+  ShowError("GalleryApp", "OnInit");
+  return false;
+}
+
+int GalleryApp::OnExit() {
+  Guarded("GalleryApp", "OnExit", [] { ResetServices(); });
+  return wxApp::OnExit();
+}
+
+void GalleryApp::OnInitCmdLine(wxCmdLineParser& parser) {
+  wxApp::OnInitCmdLine(parser);
+  parser.AddLongOption("language", "the code of the language to show (1033, 2052, 1025)",
+                       wxCMD_LINE_VAL_NUMBER);
+}
+
+bool GalleryApp::OnCmdLineParsed(wxCmdLineParser& parser) {
+  long code = 0;
+  if (parser.Found("language", &code) && !GetResource().SwitchLanguage(static_cast<int>(code))) {
+    wxLogError("There is no language %ld.", code);
+    return false;
+  }
+  return wxApp::OnCmdLineParsed(parser);
+}
+
+wxLayoutDirection GalleryApp::GetLayoutDirection() const {
+  return GetResource().IsRightToLeft() ? wxLayout_RightToLeft : wxLayout_LeftToRight;
+}
+
+bool GalleryApp::OnExceptionInMainLoop() {
+  ShowError("GalleryApp", "OnExceptionInMainLoop");
+  return true;
+}
+
+void GalleryApp::OnUnhandledException() {
+  ShowError("GalleryApp", "OnUnhandledException");
+}
+
+}  // namespace mindloft

@@ -1,0 +1,50 @@
+#include "gallery/frmControls.h"
+
+#include <wx/scrolwin.h>
+#include <wx/sizer.h>
+
+#include "controls/RegisterControls.h"
+#include "core/forms/Form.h"
+#include "core/forms/Images.h"
+#include "gallery/ButtonsPart.h"
+#include "gallery/NumbersPart.h"
+#include "gallery/TextsPart.h"
+
+namespace mindloft {
+namespace {
+
+constexpr int kGap = 8;
+
+}  // namespace
+
+frmControls::frmControls() {
+  RegisterControls();
+  Create(nullptr, wxID_ANY, "Mindloft controls", wxPoint(0, 0), wxDefaultSize, wxDEFAULT_FRAME_STYLE,
+         "frmControls");
+  SetIcons(WindowIcons());
+  CreateStatusBar();
+  const auto tell = [this](const wxString& event) { SetStatusText(event); };
+
+  // For screens that are smaller than the page.
+  auto* page = new wxScrolledWindow(this);
+  page->SetScrollRate(FromDIP(kGap), FromDIP(kGap));
+  auto* columns = new wxBoxSizer(wxHORIZONTAL);
+  const auto addColumn = [&](std::initializer_list<wxWindow*> parts) {
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    for (wxWindow* part : parts) column->Add(part, wxSizerFlags().Expand().Border(wxALL, FromDIP(kGap)));
+    columns->Add(column, wxSizerFlags(1));
+  };
+  addColumn({new TextsPart(page, tell)});
+  addColumn({new NumbersPart(page, tell), new ButtonsPart(page, tell)});
+  page->SetSizer(columns);
+
+  auto* whole = new wxBoxSizer(wxVERTICAL);
+  whole->Add(page, wxSizerFlags(1).Expand());
+  SetSizer(whole);
+  ApplyLayoutDirection(*this);
+  page->SetMinSize(columns->GetMinSize());
+  Fit();
+  page->SetMinSize(wxDefaultSize);
+}
+
+}  // namespace mindloft

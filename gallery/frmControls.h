@@ -1,0 +1,14 @@
+#pragma once
+
+#include <wx/frame.h>
+
+namespace mindloft {
+
+/// The one page on which every control of the console stands in every state. The status bar tells the last
+/// event that one of them raised.
+class frmControls : public wxFrame {
+ public:
+  frmControls();
+};
+
+}  // namespace mindloft

@@ -1,0 +1,3 @@
+#include "gallery/GalleryApp.h"
+
+wxIMPLEMENT_APP(mindloft::GalleryApp);
