@@ -33,6 +33,15 @@ void Append(std::string& text, utf8proc_int32_t point) {
   text.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
 }
 
+/// What the character stands for when its width is left aside; itself when it is of the usual width.
+utf8proc_int32_t WithoutWidth(utf8proc_int32_t point, utf8proc_decomp_type_t width) {
+  if (utf8proc_get_property(point)->decomp_type != width) return point;
+  utf8proc_int32_t result[4] = {};
+  int boundary = 0;
+  const auto length = utf8proc_decompose_char(point, result, 4, UTF8PROC_COMPAT, &boundary);
+  return length == 1 ? result[0] : point;
+}
+
 bool IsLeading(char16_t unit) {
   return unit >= 0xD800 && unit <= 0xDBFF;
 }
@@ -97,6 +106,21 @@ std::string UpperCase(std::string_view utf8) {
     Append(result, point < 0 ? Replacement : utf8proc_toupper(point));
   });
   return result;
+}
+
+char32_t NarrowForm(char32_t character) {
+  // The block of half-width and full-width forms.
+  constexpr utf8proc_int32_t FirstNarrow = 0xFF61;
+  constexpr utf8proc_int32_t LastNarrow = 0xFFEE;
+  if (character > 0x10FFFF) return character;
+  const auto point = static_cast<utf8proc_int32_t>(character);
+  const auto narrow = WithoutWidth(point, UTF8PROC_DECOMP_TYPE_WIDE);
+  if (narrow != point) return static_cast<char32_t>(narrow);
+  for (auto each = FirstNarrow; each <= LastNarrow; ++each) {
+    if (each != point && WithoutWidth(each, UTF8PROC_DECOMP_TYPE_NARROW) == point)
+      return static_cast<char32_t>(each);
+  }
+  return character;
 }
 
 }  // namespace mindloft::platform

@@ -19,4 +19,8 @@ bool HasControlCharacter(std::string_view text);
 /// Folded for comparing without regard to case, character by character as registries do.
 std::string UpperCase(std::string_view utf8);
 
+/// The narrow (half-width) form of a full-width character: '5' of U+FF15, U+FF71 of U+30A2. A character that
+/// has none is its own, also one whose narrow form takes two characters.
+char32_t NarrowForm(char32_t character);
+
 }  // namespace mindloft::platform

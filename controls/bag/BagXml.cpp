@@ -30,7 +30,7 @@ PropertyBag ReadBag(const wxXmlNode& control) {
   for (const auto* node = control.GetChildren(); node; node = node->GetNext()) {
     if (node->GetType() != wxXML_ELEMENT_NODE) continue;
     const wxString& name = node->GetName();
-    if (wxIsupper(name[0])) {
+    if (name[0] >= 'A' && name[0] <= 'Z') {
       if (bag.Find(name)) throw Error(ErrorNumber::Unexpected, ToUtf8(name) + " stands twice");
       bag.Write(name, ContentOf(*node));
     } else if (std::find(kWindowParameters.begin(), kWindowParameters.end(), name) ==
