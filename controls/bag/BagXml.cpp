@@ -23,6 +23,17 @@ wxString ContentOf(const wxXmlNode& node) {
   return content;
 }
 
+/// Blanks at the edges survive only in a CDATA section. The mark that ends one is put into two of them.
+void AddContent(wxXmlNode& node, const wxString& text) {
+  constexpr std::size_t PartOfEndMark = 2;
+  for (std::size_t start = 0; start < text.length();) {
+    std::size_t end = text.find("]]>", start);
+    end = end == wxString::npos ? text.length() : end + PartOfEndMark;
+    node.AddChild(new wxXmlNode(wxXML_CDATA_SECTION_NODE, wxString(), text.substr(start, end - start)));
+    start = end;
+  }
+}
+
 }  // namespace
 
 PropertyBag ReadBag(const wxXmlNode& control) {
@@ -44,8 +55,7 @@ PropertyBag ReadBag(const wxXmlNode& control) {
 void WriteBag(const PropertyBag& bag, wxXmlNode& control) {
   for (const auto& [name, text] : bag.Entries()) {
     auto* node = new wxXmlNode(wxXML_ELEMENT_NODE, name);
-    // Blanks at the edges survive only in this form.
-    if (!text.empty()) node->AddChild(new wxXmlNode(wxXML_CDATA_SECTION_NODE, wxString(), text));
+    AddContent(*node, text);
     control.AddChild(node);
   }
 }
