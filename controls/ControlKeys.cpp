@@ -67,8 +67,8 @@ int ControlKeyCode(const wxKeyEvent& event) {
   return key;
 }
 
-int ShiftState(const wxKeyEvent& event) {
-  return (event.ShiftDown() ? 1 : 0) + (event.ControlDown() ? 2 : 0) + (event.AltDown() ? 4 : 0);
+int ShiftState(const wxKeyboardState& keys) {
+  return (keys.ShiftDown() ? 1 : 0) + (keys.ControlDown() ? 2 : 0) + (keys.AltDown() ? 4 : 0);
 }
 
 int TypedCharacter(const wxKeyEvent& event) {

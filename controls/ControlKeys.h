@@ -3,6 +3,7 @@
 #include <functional>
 
 class wxKeyEvent;
+class wxKeyboardState;
 class wxTextCtrl;
 
 namespace mindloft {
@@ -14,7 +15,7 @@ namespace mindloft {
 int ControlKeyCode(const wxKeyEvent& event);
 
 /// 1: Shift, 2: Ctrl, 4: Alt; their sum when several are held.
-int ShiftState(const wxKeyEvent& event);
+int ShiftState(const wxKeyboardState& keys);
 
 /// The character that a wxEVT_CHAR types, 1 to 26 for Ctrl with a letter; 0 when the key types none (arrows,
 /// Delete, function keys).
