@@ -19,7 +19,8 @@ constexpr int kOwnSize = 32;
 ControlPicture::ControlPicture(const wxString& name) : name_(name) {
   if (name.empty()) return;
   drawing_ = LoadImage(name, kOwnSize);
-  if (!drawing_.IsOk()) throw Error(ErrorNumber::TypeMismatch, "there is no picture \"" + ToUtf8(name) + "\"");
+  if (!drawing_.IsOk())
+    throw Error(ErrorNumber::TypeMismatch, "there is no picture \"" + ToUtf8(name) + "\"");
 }
 
 wxSize ControlPicture::OwnSize() const {
