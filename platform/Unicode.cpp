@@ -108,6 +108,25 @@ std::string UpperCase(std::string_view utf8) {
   return result;
 }
 
+std::size_t BytesOfCharacters(std::string_view utf8, std::size_t most) {
+  auto bytes = reinterpret_cast<const utf8proc_uint8_t*>(utf8.data());
+  std::size_t at = 0, count = 0, whole = 0;
+  utf8proc_int32_t before = -1, state = 0;
+  for (; at < utf8.size() && count <= most; ++count) {
+    utf8proc_int32_t point = -1;
+    auto length = utf8proc_iterate(
+        bytes + at, static_cast<utf8proc_ssize_t>(std::min(utf8.size() - at, std::size_t{4})), &point);
+    if (length <= 0) {
+      point = Replacement;
+      length = 1;
+    }
+    if (before < 0 || utf8proc_grapheme_break_stateful(before, point, &state)) whole = at;
+    before = point;
+    at += static_cast<std::size_t>(length);
+  }
+  return count <= most ? utf8.size() : whole;
+}
+
 char32_t NarrowForm(char32_t character) {
   // The block of half-width and full-width forms.
   constexpr utf8proc_int32_t FirstNarrow = 0xFF61;

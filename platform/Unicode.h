@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,10 @@ bool HasControlCharacter(std::string_view text);
 
 /// Folded for comparing without regard to case, character by character as registries do.
 std::string UpperCase(std::string_view utf8);
+
+/// The number of bytes of the longest beginning that has at most `most` characters (code points) and does not
+/// part what a reader sees as one: a letter and its accents, the people of a family emoji.
+std::size_t BytesOfCharacters(std::string_view utf8, std::size_t most);
 
 /// The narrow (half-width) form of a full-width character: '5' of U+FF15, U+FF71 of U+30A2. A character that
 /// has none is its own, also one whose narrow form takes two characters.

@@ -38,4 +38,8 @@ std::string OSInfo() {
   return GetSystemName() + " (" + system.sysname + " " + system.release + ")";
 }
 
+bool HasVisualStyles() {
+  return true;
+}
+
 }  // namespace mindloft::platform

@@ -63,4 +63,10 @@ std::string OSInfo() {
          std::to_string(version.build) + ")";
 }
 
+bool HasVisualStyles() {
+  const auto version = SystemVersion();
+  // 5.1 is XP; without an answer the version is unknown.
+  return version.major == 0 || std::tie(version.major, version.minor) >= std::make_tuple(5u, 1u);
+}
+
 }  // namespace mindloft::platform
