@@ -24,13 +24,15 @@ class KeepsProperties {
   bool changed_ = false;
 };
 
-/// The above for a control that has `static const PropertyTable<Control>& Properties()`.
-template <typename Control>
-class BagControl : public KeepsProperties {
+/// The above for a control that has `static const PropertyTable<Control>& Properties()`. `Base` is a
+/// KeepsProperties too: what several kinds of control share.
+template <typename Control, typename Base = KeepsProperties>
+class BagControl : public Base {
  public:
+  using Base::Base;
   void ReadProperties(const PropertyBag& bag) override {
     Control::Properties().Read(static_cast<Control&>(*this), bag);
-    PropertiesUnchanged();
+    this->PropertiesUnchanged();
   }
   PropertyBag WriteProperties() const override {
     return Control::Properties().Write(static_cast<const Control&>(*this));

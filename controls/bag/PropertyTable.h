@@ -79,4 +79,12 @@ typename PropertyTable<Control>::Entry KeptProperty(const char* name, Value (Con
           [get](const Control& control) { return PropertyText<Kept>::Format((control.*get)()); }};
 }
 
+/// The above for a property of a base class, which several kinds of control share:
+/// `InheritedProperty<C>(...)`.
+template <typename Control, typename Owner, typename Value, typename Argument, typename Default>
+typename PropertyTable<Control>::Entry InheritedProperty(const char* name, Value (Owner::*get)() const,
+                                                         void (Owner::*set)(Argument), Default otherwise) {
+  return KeptProperty<Control, Value, Argument, Default>(name, get, set, std::move(otherwise));
+}
+
 }  // namespace mindloft
