@@ -26,13 +26,19 @@ void SetCaption(wxWindow& window, const wxString& text) {
   }
 }
 
+void LoadCaptions(const Resource& resource, const wxString& form, wxWindow& parent);
+
+void LoadCaption(const Resource& resource, const wxString& form, wxWindow& window) {
+  auto caption = resource.CaptionOf(form, window.GetName());
+  if (caption && !caption->text.empty()) SetCaption(window, caption->text);
+  if (caption && !caption->tip.empty()) window.SetToolTip(caption->tip);
+  LoadCaptions(resource, form, window);
+}
+
 void LoadCaptions(const Resource& resource, const wxString& form, wxWindow& parent) {
   for (wxWindow* window : parent.GetChildren()) {
-    if (window->IsTopLevel()) continue;  // a form of its own
-    auto caption = resource.CaptionOf(form, window->GetName());
-    if (caption && !caption->text.empty()) SetCaption(*window, caption->text);
-    if (caption && !caption->tip.empty()) window->SetToolTip(caption->tip);
-    LoadCaptions(resource, form, *window);
+    // A form of its own has captions of its own.
+    if (!window->IsTopLevel()) LoadCaption(resource, form, *window);
   }
 }
 
@@ -45,6 +51,11 @@ void Resource::LoadInfoOnForm(wxWindow& form) const {
   auto* topLevel = dynamic_cast<wxTopLevelWindow*>(&form);
   if (topLevel && title) topLevel->SetTitle(*title);
   LoadCaptions(*this, name, form);
+}
+
+void Resource::LoadInfoOnControl(wxWindow& control) const {
+  const wxWindow* form = wxGetTopLevelParent(&control);
+  if (form) LoadCaption(*this, form->GetName(), control);
 }
 
 }  // namespace mindloft::Tessaline

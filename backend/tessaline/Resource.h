@@ -59,6 +59,8 @@ class Resource {
   /// caption that the language file gives for the form's name and the window's name (and its tool tip, where
   /// there is one).
   void LoadInfoOnForm(wxWindow& form) const;
+  /// Sets the caption (and the tool tip) of one control of a form, and of what is inside it.
+  void LoadInfoOnControl(wxWindow& control) const;
   /// The caption for a control, menu item or tool of a form in the current language, else in English; nothing
   /// when neither has it.
   std::optional<LanguageFile::Caption> CaptionOf(const wxString& form, const wxString& control) const;
