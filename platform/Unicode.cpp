@@ -36,9 +36,10 @@ void Append(std::string& text, utf8proc_int32_t point) {
 /// What the character stands for when its width is left aside; itself when it is of the usual width.
 utf8proc_int32_t WithoutWidth(utf8proc_int32_t point, utf8proc_decomp_type_t width) {
   if (utf8proc_get_property(point)->decomp_type != width) return point;
+  constexpr auto Options = static_cast<utf8proc_option_t>(UTF8PROC_DECOMPOSE | UTF8PROC_COMPAT);
   utf8proc_int32_t result[4] = {};
   int boundary = 0;
-  const auto length = utf8proc_decompose_char(point, result, 4, UTF8PROC_COMPAT, &boundary);
+  const auto length = utf8proc_decompose_char(point, result, 4, Options, &boundary);
   return length == 1 ? result[0] : point;
 }
 
