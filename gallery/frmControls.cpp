@@ -4,6 +4,7 @@
 #include <wx/sizer.h>
 
 #include "controls/RegisterControls.h"
+#include "core/ErrorHandling.h"
 #include "core/forms/Form.h"
 #include "core/forms/Images.h"
 #include "gallery/ButtonsPart.h"
@@ -42,9 +43,14 @@ frmControls::frmControls() {
   whole->Add(page, wxSizerFlags(1).Expand());
   SetSizer(whole);
   ApplyLayoutDirection(*this);
-  page->SetMinSize(columns->GetMinSize());
-  Fit();
-  page->SetMinSize(wxDefaultSize);
+  // The window manager tells how much its borders take only when the window is there.
+  const auto fitPage = [this, page, columns] {
+    page->SetMinSize(columns->GetMinSize());
+    Fit();
+    page->SetMinSize(wxDefaultSize);
+  };
+  fitPage();
+  CallAfter([fitPage] { Guarded("frmControls", "Form_Load", fitPage); });
 }
 
 }  // namespace mindloft

@@ -13,6 +13,16 @@ namespace mindloft::platform {
 /// the desktop neither copies nor drags the text.
 void SetPasswordCharacter(wxTextCtrl& box, char32_t character);
 
+/// Moves the text of a box without a border to where the desktop's own box shows it, when layers around it
+/// take `around` pixels at its left and right already. Where the two are the same place, nothing is done.
+void AlignText(wxTextCtrl& box, int around);
+
+/// Underlines the text as its font tells, where the desktop does not do so by itself.
+void ApplyUnderline(wxTextCtrl& box);
+
+/// Lets the ground of the form be seen through a box that is only read and has no colour of its own.
+void ShowGround(wxTextCtrl& box);
+
 /// What screen readers call the box. The function is asked whenever they do, or, where the desktop keeps the
 /// name, each time the box gets the focus; it must not throw.
 void SetAccessibleName(wxTextCtrl& box, std::function<wxString()> name);

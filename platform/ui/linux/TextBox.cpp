@@ -3,6 +3,11 @@
 #include <gtk/gtk.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
+#include <string>
+
+#include "platform/ui/linux/EntryStyle.h"
+
 namespace mindloft::platform {
 namespace {
 
@@ -25,6 +30,33 @@ void SetPasswordCharacter(wxTextCtrl& box, char32_t character) {
     gtk_entry_set_invisible_char(entry, character);
   else
     gtk_entry_unset_invisible_char(entry);
+}
+
+void AlignText(wxTextCtrl& box, int around) {
+  if (!GTK_IS_ENTRY(box.m_widget)) return;
+  const auto style = EntryStyle(box.m_widget, {});
+  GtkBorder padding, border;
+  gtk_style_context_get_padding(style.get(), GTK_STATE_FLAG_NORMAL, &padding);
+  gtk_style_context_get_border(style.get(), GTK_STATE_FLAG_NORMAL, &border);
+  const auto rest = [&](int own) { return std::to_string(std::max(0, own - around)) + "px"; };
+  // The box has a transparent border of the theme's own width besides.
+  const std::string rule = "entry { border-width: 0; padding-left: " + rest(padding.left + border.left) +
+                           "; padding-right: " + rest(padding.right + border.right) + "; }";
+  AddRule(gtk_widget_get_style_context(box.m_widget), rule);
+}
+
+void ApplyUnderline(wxTextCtrl& box) {
+  if (!GTK_IS_ENTRY(box.m_widget)) return;
+  PangoAttrList* attributes = pango_attr_list_new();
+  if (box.GetFont().GetUnderlined())
+    pango_attr_list_insert(attributes, pango_attr_underline_new(PANGO_UNDERLINE_SINGLE));
+  gtk_entry_set_attributes(GTK_ENTRY(box.m_widget), attributes);
+  pango_attr_list_unref(attributes);
+}
+
+void ShowGround(wxTextCtrl& box) {
+  AddRule(gtk_widget_get_style_context(box.m_widget),
+          "entry { background-image: none; background-color: transparent; }");
 }
 
 void SetAccessibleName(wxTextCtrl& box, std::function<wxString()> name) {

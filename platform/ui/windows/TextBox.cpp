@@ -33,6 +33,11 @@ void SetPasswordCharacter(wxTextCtrl& box, char32_t character) {
   box.Refresh();
 }
 
+void AlignText(wxTextCtrl&, int) {}
+void ApplyUnderline(wxTextCtrl&) {}
+// The system draws what is only read on the form's ground by itself.
+void ShowGround(wxTextCtrl&) {}
+
 void SetAccessibleName(wxTextCtrl& box, std::function<wxString()> name) {
   // The window owns it.
   box.SetAccessible(new NamedAccessible(&box, std::move(name)));

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <gtk/gtk.h>
+
+#include <memory>
+#include <string>
+
+class wxColour;
+
+namespace mindloft::platform {
+
+struct UnrefObject {
+  void operator()(gpointer object) const { g_object_unref(object); }
+};
+using StyleContext = std::unique_ptr<GtkStyleContext, UnrefObject>;
+
+/// The theme's style of a text box on the widget's screen, with another background if one is given.
+StyleContext EntryStyle(GtkWidget* widget, const wxColour& background);
+
+/// Adds a rule of the style language that overrides the theme's.
+void AddRule(GtkStyleContext* style, const std::string& rule);
+
+}  // namespace mindloft::platform
