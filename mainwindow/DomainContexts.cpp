@@ -1,6 +1,7 @@
 #include "mainwindow/DomainContexts.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "backend/corvane/KDomain.h"
 #include "backend/tessaline/Text.h"
@@ -16,59 +17,39 @@ constexpr std::int64_t kPage = 500;
 
 DomainContexts::DomainContexts(std::shared_ptr<Corvane::KDomains> domains) : domains_(std::move(domains)) {}
 
-void DomainContexts::Read() {
+DomainContexts::Changes DomainContexts::Read() {
   const auto view = domains_->View();
-  keys_.clear();
-  contexts_.clear();
+  Changes changes;
+  std::vector<wxString> keys;
+  std::map<wxString, Entry> entries;
   for (std::int64_t first = 0;; first += kPage) {
     const auto records = view.Page(first, kPage);
-    for (const auto& record : records) Put(domains_->Context(record));
-    if (static_cast<std::int64_t>(records.size()) < kPage) return;
+    for (const auto& record : records) {
+      const wxString key = ToWx(Corvane::IdText(record.id));
+      Entry entry{record, domains_->Context(record)};
+      const auto known = entries_.find(key);
+      if (known != entries_.end()) entry.context->SetNodeId(known->second.context->NodeId());
+      if (known == entries_.end() || known->second.record != record) changes.shown.push_back(key);
+      // Pages are read one after the other: a domain that is renamed meanwhile may come twice.
+      if (entries.insert_or_assign(key, std::move(entry)).second) keys.push_back(key);
+    }
+    if (static_cast<std::int64_t>(records.size()) < kPage) break;
   }
+  std::ranges::copy_if(keys_, std::back_inserter(changes.gone),
+                       [&](const wxString& key) { return !entries.contains(key); });
+  keys_ = std::move(keys);
+  entries_ = std::move(entries);
+  return changes;
 }
 
 std::shared_ptr<Corvane::DomainContext> DomainContexts::Item(const wxString& key) const {
-  const auto found = contexts_.find(key);
-  return found == contexts_.end() ? nullptr : found->second;
-}
-
-std::shared_ptr<Corvane::DomainContext> DomainContexts::Stored(const wxString& key) const {
-  return domains_->Item(ToUtf8(key));
-}
-
-wxString DomainContexts::Put(const std::shared_ptr<Corvane::DomainContext>& context) {
-  const wxString key = KeyOf(*context);
-  if (contexts_.insert_or_assign(key, context).second) keys_.push_back(key);
-  return key;
-}
-
-void DomainContexts::Update(const std::shared_ptr<Corvane::DomainContext>& context) {
-  const wxString key = Put(context);
-  std::erase(keys_, key);
-  keys_.insert(std::ranges::find(keys_, StoredAfter(key)), key);
-}
-
-wxString DomainContexts::StoredAfter(const wxString& key) const {
-  const auto view = domains_->View();
-  const auto position = view.PositionOf(Corvane::IdFromText(ToUtf8(key)));
-  if (position < 0) return {};
-  // Domains made elsewhere are stored but not shown yet.
-  for (std::int64_t first = position + 1;; first += kPage) {
-    const auto records = view.Page(first, kPage);
-    for (const auto& record : records)
-      if (const wxString next = ToWx(Corvane::IdText(record.id)); contexts_.contains(next)) return next;
-    if (static_cast<std::int64_t>(records.size()) < kPage) return {};
-  }
+  const auto found = entries_.find(key);
+  return found == entries_.end() ? nullptr : found->second.context;
 }
 
 wxString DomainContexts::KeyAfter(const wxString& key) const {
   auto found = std::ranges::find(keys_, key);
   return found == keys_.end() || ++found == keys_.end() ? wxString() : *found;
-}
-
-void DomainContexts::Remove(const wxString& key) {
-  contexts_.erase(key);
-  std::erase(keys_, key);
 }
 
 wxString DomainContexts::KeyOf(const Corvane::DomainContext& context) {

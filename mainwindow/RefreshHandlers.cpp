@@ -1,5 +1,7 @@
 #include "mainwindow/RefreshHandlers.h"
 
+#include <ranges>
+
 #include "backend/corvane/Corvane.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
@@ -42,22 +44,26 @@ void RefreshHandlers::Dispatch(std::int32_t kind, std::int32_t action, const std
   }
 }
 
-void RefreshHandlers::RefreshDomainNode(std::int32_t action, const std::any& object) try {
+void RefreshHandlers::RefreshDomainNode(std::int32_t, const std::any& object) try {
   const auto context = As<Corvane::DomainContext>(object);
   if (!context || !context->KDomain() || context->KDomain()->IsNew()) return;
-  const wxString key = DomainContexts::KeyOf(*context);
-  if (action == static_cast<std::int32_t>(ObjectAction::Deleted)) {
-    DomainDeleted(key);
-  } else if (const auto stored = domains_.Stored(key)) {
-    domains_.Update(stored);
-    form_.Tree().UpdateDomain(stored);
-  }
+  // Whatever was done to the domain, the directory says what is left of it.
+  ShowStoredDomains();
   RefreshListOf(keys::kDomains);
 } catch (...) {
   Raise("frmSysAdmin", "RefreshDomainNode");
 }
 
-void RefreshHandlers::DomainDeleted(const wxString& key) {
+void RefreshHandlers::ShowStoredDomains() {
+  const auto changes = domains_.Read();
+  for (const auto& key : changes.gone) RemoveDomain(key);
+  // Their order is that of the names, so only these have another place. From the last one on, each finds the
+  // domain before which it belongs in its place already.
+  for (const auto& key : std::views::reverse(changes.shown))
+    if (const auto context = domains_.Item(key)) form_.Tree().UpdateDomain(context);
+}
+
+void RefreshHandlers::RemoveDomain(const wxString& key) {
   auto& tree = form_.Tree();
   auto& explorer = form_.Explorer();
   const int selected = explorer.SelectedTreeNode();
@@ -65,7 +71,6 @@ void RefreshHandlers::DomainDeleted(const wxString& key) {
   // The node goes after the selection has left it: a list of what is gone must not be asked for.
   if (inside) explorer.SelectTreeNode(explorer.TreeNodeParent(tree.DomainNode(key)));
   tree.RemoveDomain(key);
-  domains_.Remove(key);
 }
 
 void RefreshHandlers::RefreshUserGroupNode(std::int32_t, const std::any& object) try {

@@ -20,6 +20,10 @@ class RefreshHandlers {
   /// Takes the handler of the kind; kinds and actions that are not known change nothing.
   void Dispatch(std::int32_t kind, std::int32_t action, const std::any& object);
 
+  /// Brings the tree's domains up to date with the directory: those that other consoles have made, renamed or
+  /// deleted take their place as well. Nodes of the others stay untouched, and so does the list.
+  void ShowStoredDomains();
+
   /// The object of each is a shared pointer: to a DomainContext, a DGroup, a User, a User.
   void RefreshDomainNode(std::int32_t action, const std::any& object);
   void RefreshUserGroupNode(std::int32_t action, const std::any& object);
@@ -27,7 +31,7 @@ class RefreshHandlers {
   void RefreshDomainUserNode(std::int32_t action, const std::any& object);
 
  private:
-  void DomainDeleted(const wxString& key);
+  void RemoveDomain(const wxString& key);
   void RefreshListOf(const wxString& nodeKey);
 
   frmSysAdmin& form_;

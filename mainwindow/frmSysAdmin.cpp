@@ -395,6 +395,8 @@ void frmSysAdmin::ctMainForm_trChange(int index) try {
     selectedNodeKey_ = Explorer().TreeNodeKey(index);
     if (tree_->IsDomain(index)) lastDomainKey_ = selectedNodeKey_;
     lists_->AddColumn(kindKey);
+    // The list will show the domains as they are stored now; the tree must not contradict it.
+    if (kindKey == keys::kDomains) refreshHandlers_->ShowStoredDomains();
     if (kind->IsObject())
       lists_->ListObjects(kindKey, domains_->Item(tree_->DomainKey(index)));
     else

@@ -15,12 +15,6 @@
 
 namespace mindloft::test {
 
-namespace {
-
-constexpr const char* kPassword = "a password for tests";
-
-}  // namespace
-
 void MainWindowTest::SetUp() {
   PrivateServices::SetUp();
   MakeDirectory();
@@ -35,9 +29,8 @@ void MainWindowTest::TearDown() {
 }
 
 void MainWindowTest::MakeDirectory() {
-  const auto file = folder_.Path() / "test.directory";
-  SqliteDirectory::Create(file, {"admin", kPassword});
-  SetApplication(std::make_unique<Corvane::Application>(Corvane::EmbeddedDirectoryProvider(file)));
+  SqliteDirectory::Create(file_, {"admin", kPassword});
+  SetApplication(std::make_unique<Corvane::Application>(Corvane::EmbeddedDirectoryProvider(file_)));
   const auto connection = GetConnection();
   connection->SetConnectMode(1);
   ASSERT_TRUE(connection->Login("admin", kPassword));

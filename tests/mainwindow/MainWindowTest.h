@@ -19,6 +19,7 @@ class MainWindowTest : public PrivateServices {
   void SetUp() override;
   void TearDown() override;
 
+  void MakeDirectory();
   /// Logs in and opens the window.
   void Open(const std::string& user = "admin", bool startWithNode = false);
   /// Closes it as a user would; false when it refused.
@@ -35,10 +36,10 @@ class MainWindowTest : public PrivateServices {
   wxString DomainKey(const std::string& name);
   Corvane::Server& Server();
 
+  /// Of all users.
+  static constexpr const char* kPassword = "a password for tests";
+  const std::filesystem::path file_ = folder_.Path() / "test.directory";
   frmSysAdmin* form_ = nullptr;
-
- private:
-  void MakeDirectory();
 };
 
 }  // namespace mindloft::test

@@ -6,6 +6,7 @@
 #include "mainwindow/CommandLineState.h"
 #include "mainwindow/DirectoryTree.h"
 #include "tests/mainwindow/MainWindowTest.h"
+#include "tests/support/gui/ModalDriver.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -118,6 +119,25 @@ TEST_F(TreeAndListTest, RefreshShowsWhatIsNewAndKeepsSelection) {
   ASSERT_EQ(Explorer().SelectedListRows().size(), 1u);
   EXPECT_EQ(Explorer().SelectedListRows()[0].key, key);
   EXPECT_GE(Node({"59300", "59301", DomainKey("Aardvark"), "59305"}), 0);
+}
+
+TEST_F(TreeAndListTest, HandOverLooksAtEveryNodeAndHarmlesslyPastTheLast) {
+  Open();
+  auto& explorer = Explorer();
+  const int count = explorer.TreeNodeCount();
+  // The place past the last node has no text, so nothing is found there, not even by a blank one.
+  ModalDriver noError;
+  for (const char* sought : {"no such node", " "}) {
+    SavedCommandLine() = sought;
+    form_->HandOver();
+  }
+  for (const int index : {0, count - 1}) {
+    explorer.SelectTreeNode(Node({"59300", "59302"}));
+    explorer.SetTreeNodeText(index, wxString::Format("Place %d", index));
+    SavedCommandLine() = wxString::Format("place %d", index);
+    form_->HandOver();
+    WaitFor([&] { return form_->GetTreeNodeIndex() == index; }, "the selection of the node");
+  }
 }
 
 TEST_F(TreeAndListTest, HandOverSelectsTheNodeOfThatTextInAnyCase) {
