@@ -53,10 +53,13 @@ void SelectionKeys::Track(const RowRanges& tracked, RowCache& cache, ExplorerRow
 
 bool SelectionKeys::Restore(SelectionModel& selection, ExplorerRows& rows, std::int64_t count,
                             Change change) const {
-  const bool sameRows = change == Change::Order || change == Change::Contents;
-  const bool allStay = everything_ && change != Change::Widening;
+  // Rows that have come meanwhile are not part of what was chosen before they were there.
+  const bool contents = change == Change::Contents;
+  const bool grown = contents && count > selection.RowCount();
+  const bool sameRows = (change == Change::Order || contents) && !grown;
+  const bool allStay = everything_ && change != Change::Widening && !grown && !(contents && complete_);
   std::int64_t focus = focusKey_.empty() ? -1 : rows.PositionOf(focusKey_);
-  if (focus < 0 && focus_ >= 0 && change == Change::Contents) focus = std::min(focus_, count - 1);
+  if (focus < 0 && focus_ >= 0 && contents) focus = std::min(focus_, count - 1);
 
   RowRanges next;
   std::size_t found = 0;

@@ -23,7 +23,8 @@ class SelectionKeys {
   /// What the list is going through.
   enum class Change {
     Order,      ///< the same rows elsewhere: all stay selected when all were
-    Contents,   ///< the same; a focused row that has gone leaves the focus to its successor
+    Contents,   ///< read anew: the known rows stay selected, all of very many only while none has come; a
+                ///< focused row that has gone leaves the focus to its successor
     Narrowing,  ///< some of the rows: all stay selected when all were
     Widening,   ///< other rows: only those stay selected whose keys are known
   };
