@@ -2,6 +2,7 @@
 
 #include <wx/scrolwin.h>
 #include <wx/sizer.h>
+#include <wx/stattext.h>
 
 #include "controls/RegisterControls.h"
 #include "core/ErrorHandling.h"
@@ -15,6 +16,7 @@ namespace mindloft {
 namespace {
 
 constexpr int kGap = 8;
+constexpr int kBorders = 60;
 
 }  // namespace
 
@@ -23,8 +25,9 @@ frmControls::frmControls() {
   Create(nullptr, wxID_ANY, "Mindloft controls", wxPoint(0, 0), wxDefaultSize, wxDEFAULT_FRAME_STYLE,
          "frmControls");
   SetIcons(WindowIcons());
-  CreateStatusBar();
-  const auto tell = [this](const wxString& event) { SetStatusText(event); };
+  auto* lastEvent = new wxStaticText(this, wxID_ANY, "The last event stands here.", wxDefaultPosition,
+                                     wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+  const auto tell = [lastEvent](const wxString& event) { lastEvent->SetLabelText(event); };
 
   // For screens that are smaller than the page.
   auto* page = new wxScrolledWindow(this);
@@ -41,16 +44,18 @@ frmControls::frmControls() {
 
   auto* whole = new wxBoxSizer(wxVERTICAL);
   whole->Add(page, wxSizerFlags(1).Expand());
+  whole->Add(lastEvent, wxSizerFlags().Expand().Border(wxALL, FromDIP(kGap)));
   SetSizer(whole);
   ApplyLayoutDirection(*this);
-  // The window manager tells how much its borders take only when the window is there.
-  const auto fitPage = [this, page, columns] {
-    page->SetMinSize(columns->GetMinSize());
+  // The window manager tells how much its borders take only when the window is there: until then there is
+  // room for any.
+  const auto fitPage = [this, page, columns](int borders) {
+    page->SetMinSize(columns->GetMinSize() + wxSize(borders, borders));
     Fit();
     page->SetMinSize(wxDefaultSize);
   };
-  fitPage();
-  CallAfter([fitPage] { Guarded("frmControls", "Form_Load", fitPage); });
+  fitPage(FromDIP(kBorders));
+  CallAfter([fitPage] { Guarded("frmControls", "Form_Load", [&] { fitPage(0); }); });
 }
 
 }  // namespace mindloft
