@@ -6,6 +6,7 @@
 
 #include "platform/FileAccess.h"
 #include "platform/Paths.h"
+#include "platform/ui/InstanceTransport.h"
 #include "platform/ui/PercentCode.h"
 #include "platform/ui/SingleInstance.h"
 #include "tests/platform/Child.h"
@@ -15,6 +16,7 @@
 namespace mindloft::test {
 namespace {
 
+using platform::SendResult;
 using platform::SingleInstance;
 
 std::string ExistingOrEmpty(const std::filesystem::path& file) {
@@ -121,6 +123,41 @@ TEST_F(SingleInstanceTest, TakesOverAfterTheFirstWasKilled) {
   ASSERT_TRUE(next.Serve([&](const std::string& text) { received = text; }));
   EXPECT_EQ(Send("to the next"), 0);
   WaitFor([&] { return received == "to the next"; }, "the text");
+}
+
+/// Gives the results that it was told, one for each try.
+class ScriptedTransport : public platform::InstanceTransport {
+ public:
+  ScriptedTransport(std::vector<SendResult> results, int& tries)
+      : results_(std::move(results)), tries_(tries) {}
+  bool IsAnotherRunning() const override { return true; }
+  SendResult Send(const std::string&) override { return results_.at(static_cast<std::size_t>(tries_++)); }
+  bool Serve(std::function<void(const std::string&)>) override { return false; }
+
+ private:
+  std::vector<SendResult> results_;
+  int& tries_;
+};
+
+TEST(SingleInstance, TriesAgainOnlyWhileNobodyServes) {
+  using enum SendResult;
+  struct Case {
+    std::vector<SendResult> results;
+    std::size_t length;
+    bool taken;
+    int tries;
+  };
+  for (const auto& [results, length, taken, tries] :
+       {Case{{Taken}, 5, true, 1}, Case{{NotTaken, Taken}, 5, false, 1},
+        Case{{NobodyThere, Taken}, 5, true, 2}, Case{{NobodyThere, NobodyThere, Taken}, 5, true, 3},
+        Case{{NobodyThere, NobodyThere, NobodyThere, Taken}, 5, false, 3},
+        Case{{Taken}, SingleInstance::LongestText, true, 1},
+        Case{{Taken}, SingleInstance::LongestText + 1, false, 0}, Case{{}, 5, false, 1}}) {
+    int made = 0;
+    SingleInstance second(std::make_unique<ScriptedTransport>(results, made));
+    EXPECT_EQ(second.SendToFirst(std::string(length, 'x')), taken);
+    EXPECT_EQ(made, tries) << "the last case's only try throws";
+  }
 }
 
 TEST(PercentCode, IsPlainAsciiAndDecodesTolerantly) {

@@ -7,17 +7,12 @@
 #include <string>
 
 #include "platform/linux/Descriptor.h"
+#include "platform/ui/InstanceTransport.h"
 #include "platform/ui/TextDelivery.h"
 
 class wxEventLoopSource;
 
 namespace mindloft::platform {
-
-enum class SendResult {
-  Taken,       ///< the server has the whole text
-  NotTaken,    ///< it did not say so in time, or refused it
-  NobodyThere  ///< there is no server
-};
 
 /// Hands one text to the server; waits at most about two seconds.
 SendResult SendText(const std::filesystem::path& socket, const std::string& text);

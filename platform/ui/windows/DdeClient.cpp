@@ -50,10 +50,10 @@ class Session {
 
 }  // namespace
 
-DdeResult ExecuteByDde(const std::string& service, const std::string& topic, const std::string& text) {
+SendResult ExecuteByDde(const std::string& service, const std::string& topic, const std::string& text) {
   Session session;
-  if (!session.Connect(service, topic)) return DdeResult::NobodyThere;
-  return session.Execute(text) ? DdeResult::Taken : DdeResult::NotTaken;
+  if (!session.Connect(service, topic)) return SendResult::NobodyThere;
+  return session.Execute(text) ? SendResult::Taken : SendResult::NotTaken;
 }
 
 }  // namespace mindloft::platform

@@ -2,12 +2,12 @@
 
 #include <string>
 
-namespace mindloft::platform {
+#include "platform/ui/InstanceTransport.h"
 
-enum class DdeResult { Taken, NotTaken, NobodyThere };
+namespace mindloft::platform {
 
 /// Executes a text at a DDE service: one link, one execute. It waits for whatever the other program does,
 /// also without end, so it belongs on a thread that can be left behind.
-DdeResult ExecuteByDde(const std::string& service, const std::string& topic, const std::string& text);
+SendResult ExecuteByDde(const std::string& service, const std::string& topic, const std::string& text);
 
 }  // namespace mindloft::platform

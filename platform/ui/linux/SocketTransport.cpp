@@ -1,23 +1,16 @@
-#include "platform/ui/SingleInstance.h"
-
 #include <fcntl.h>
 #include <sys/file.h>
 
 #include <cctype>
-#include <chrono>
 #include <cstdlib>
-#include <thread>
 
 #include "platform/Paths.h"
 #include "platform/linux/Descriptor.h"
+#include "platform/ui/InstanceTransport.h"
 #include "platform/ui/linux/TextSocket.h"
 
 namespace mindloft::platform {
 namespace {
-
-// While the first instance is starting up its socket is not there yet.
-constexpr int Attempts = 3;
-constexpr std::chrono::milliseconds Pause(100);
 
 /// What tells this session from the user's others: the display on which windows appear.
 std::string SessionName() {
@@ -44,11 +37,10 @@ std::string FileName(const std::string& application, const std::string& topic) {
   return name;
 }
 
-}  // namespace
-
-class SingleInstance::Impl {
+/// A private socket, and a lock that its owner holds.
+class SocketTransport : public InstanceTransport {
  public:
-  Impl(const std::string& application, const std::string& topic) {
+  SocketTransport(const std::string& application, const std::string& topic) {
     try {
       auto name = FileName(application, topic);
       socket_ = RuntimeFolder() / (name + ".socket");
@@ -61,23 +53,11 @@ class SingleInstance::Impl {
     isAnotherRunning_ = lock_ && flock(lock_.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
   }
 
-  bool IsAnotherRunning() const { return isAnotherRunning_; }
+  bool IsAnotherRunning() const override { return isAnotherRunning_; }
 
-  bool Send(const std::string& text) const {
-    for (int attempt = 1;; ++attempt) {
-      switch (SendText(socket_, text)) {
-        case SendResult::Taken:
-          return true;
-        case SendResult::NotTaken:
-          return false;
-        case SendResult::NobodyThere:
-          if (attempt == Attempts) return false;
-          std::this_thread::sleep_for(Pause);
-      }
-    }
-  }
+  SendResult Send(const std::string& text) override { return SendText(socket_, text); }
 
-  bool Serve(std::function<void(const std::string&)> onText) {
+  bool Serve(std::function<void(const std::string&)> onText) override {
     // Only the lock's owner may remove what a crashed instance left.
     if (!lock_ || isAnotherRunning_) return false;
     server_.reset();
@@ -92,23 +72,11 @@ class SingleInstance::Impl {
   std::unique_ptr<TextServer> server_;  // goes before the lock
 };
 
-SingleInstance::SingleInstance(const std::string& application, const std::string& topic)
-    : impl_(std::make_unique<Impl>(application, topic)) {}
+}  // namespace
 
-SingleInstance::~SingleInstance() = default;
-
-bool SingleInstance::IsAnotherRunning() const {
-  return impl_->IsAnotherRunning();
-}
-
-bool SingleInstance::SendToFirst(const std::string& utf8Text) try {
-  return utf8Text.size() <= LongestText && impl_->Send(utf8Text);
-} catch (...) {
-  return false;
-}
-
-bool SingleInstance::Serve(std::function<void(const std::string&)> onText) {
-  return impl_->Serve(std::move(onText));
+std::unique_ptr<InstanceTransport> InstanceTransport::Create(const std::string& application,
+                                                             const std::string& topic) {
+  return std::make_unique<SocketTransport>(application, topic);
 }
 
 }  // namespace mindloft::platform
