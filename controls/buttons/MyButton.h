@@ -175,7 +175,6 @@ class MyButton : public wxControl, public BagControl<MyButton>, private platform
   void OnChar(wxKeyEvent& event);
   void OnKeyUp(wxKeyEvent& event);
   void OnFormKey(wxKeyEvent& event);
-  bool IsAccessKey(const wxKeyEvent& event) const;
   bool IsFormsKey(const wxKeyEvent& event) const;
   void UserControl_AccessKeyPress();
 

@@ -3,6 +3,7 @@
 #include <wx/textctrl.h>
 
 #include "controls/ControlKeys.h"
+#include "controls/buttons/AccessKey.h"
 #include "controls/buttons/MyButton.h"
 #include "controls/buttons/RaiseEvent.h"
 
@@ -28,7 +29,7 @@ void MyButton::OnKeyDown(wxKeyEvent& event) {
   if (locked_) return;
   int key = ControlKeyCode(event);
   const bool clicks = (key == kEnter || key == kSpace) && !event.AltDown();
-  if (clicks && !keyHeld_ && !event.IsAutoRepeat()) {
+  if (clicks && !keyHeld_) {
     keyHeld_ = true;
     if (key == kSpace) {
       pressed_ = true;
@@ -61,16 +62,6 @@ void MyButton::OnKeyUp(wxKeyEvent& event) {
   RaiseEvent(*this, "MyButton", "KeyUp", KeyUp, key, ShiftState(event));
 }
 
-bool MyButton::IsAccessKey(const wxKeyEvent& event) const {
-  if (event.GetModifiers() != wxMOD_ALT) return false;
-  // The key's character in the present keyboard layout, or the Latin letter that it has besides.
-  const auto is = [&](int character) {
-    return character > WXK_SPACE && character < WXK_START &&
-           accessKeys_.Contains(wxString(wxUniChar(character)).Upper());
-  };
-  return is(event.GetKeyCode()) || is(static_cast<int>(event.GetUnicodeKey()));
-}
-
 bool MyButton::IsFormsKey(const wxKeyEvent& event) const {
   if (event.GetModifiers() != wxMOD_NONE) return false;
   const int key = event.GetKeyCode();
@@ -80,7 +71,7 @@ bool MyButton::IsFormsKey(const wxKeyEvent& event) const {
 }
 
 void MyButton::OnFormKey(wxKeyEvent& event) {
-  const bool isAccessKey = IsAccessKey(event);
+  const bool isAccessKey = IsAccessKey(event, accessKeys_);
   if (locked_ || !IsEnabled() || !IsShownOnScreen() || (!isAccessKey && !IsFormsKey(event))) {
     event.Skip();
     return;

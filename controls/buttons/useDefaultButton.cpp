@@ -6,6 +6,8 @@
 #include <wx/textctrl.h>
 
 #include "controls/ControlKeys.h"
+#include "controls/buttons/AccessKey.h"
+#include "controls/buttons/ButtonCaption.h"
 #include "controls/buttons/ButtonEdges.h"
 #include "controls/buttons/LineBreak.h"
 #include "controls/buttons/MouseButtons.h"
@@ -44,6 +46,7 @@ bool useDefaultButton::Create(wxWindow* parent, wxWindowID id, const wxPoint& po
 }
 
 void useDefaultButton::BindEvents() {
+  BindFormKeys();
   Bind(wxEVT_PAINT, &useDefaultButton::OnPaint, this);
   Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
     ShowColours();
@@ -80,15 +83,33 @@ void useDefaultButton::BindEvents() {
   });
 }
 
+void useDefaultButton::BindFormKeys() {
+  if (wxWindow* form = wxGetTopLevelParent(this))
+    form->Bind(wxEVT_CHAR_HOOK, &useDefaultButton::OnFormKey, this);
+}
+
+bool useDefaultButton::Reparent(wxWindowBase* parent) {
+  wxWindow* form = wxGetTopLevelParent(this);
+  if (!wxPanel::Reparent(parent)) return false;
+  if (form) form->Unbind(wxEVT_CHAR_HOOK, &useDefaultButton::OnFormKey, this);
+  BindFormKeys();
+  command1_->SetDefault();
+  return true;
+}
+
+// Some desktops press the button without moving the focus to it, and an access key pressed in a box of lines
+// would look like Enter.
+void useDefaultButton::OnFormKey(wxKeyEvent& event) {
+  event.Skip();
+  const bool usable = command1_->IsEnabled() && command1_->IsShownOnScreen();
+  if (usable && IsAccessKey(event, ButtonCaption(Caption()).accessKeys)) command1_->SetFocus();
+}
+
 void useDefaultButton::Command1_Click() try {
-  wxTextCtrl* box = FocusedLines();
-  // An access key leaves the focus where it is on some desktops, but means this button.
-  if (box && !wxGetMouseState().AltDown()) {
+  if (wxTextCtrl* box = FocusedLines())
     BreakLine(*box);
-    return;
-  }
-  if (box) command1_->SetFocus();
-  RaiseEvent(*this, kClass, "Click", Click);
+  else
+    RaiseEvent(*this, kClass, "Click", Click);
 } catch (...) {
   ShowError(kClass, "Command1_Click");
 }

@@ -63,9 +63,12 @@ class useDefaultButton : public wxPanel, public BagControl<useDefaultButton> {
 
   void SetLabel(const wxString& label) override { SetCaption(label); }
   wxString GetLabel() const override { return Caption(); }
+  bool Reparent(wxWindowBase* parent) override;
 
  private:
   void BindEvents();
+  void BindFormKeys();
+  void OnFormKey(wxKeyEvent& event);
   void Command1_Click();
   void OnPaint(wxPaintEvent& event);
   void ShowColours();
