@@ -1,6 +1,15 @@
 #include "controls/RegisterControls.h"
 
+#include "controls/bag/BagXmlHandler.h"
+#include "controls/buttons/MyButton.h"
+#include "controls/buttons/UserLine.h"
+#include "controls/buttons/useDefaultButton.h"
 #include "controls/explorer/ExplorerXmlHandler.h"
+#include "controls/numbers/UserTextNumber.h"
+#include "controls/numbers/ucMaskedNumber.h"
+#include "controls/texts/UseMultiLineTextBox.h"
+#include "controls/texts/UseTextBox.h"
+#include "controls/texts/UserText.h"
 #include "core/forms/Form.h"
 
 namespace mindloft {
@@ -8,6 +17,14 @@ namespace mindloft {
 void RegisterControls() {
   static const bool registered = [] {
     RegisterFormHandler(new ExplorerXmlHandler);
+    RegisterFormHandler(new BagXmlHandler<MyButton>("MyButton"));
+    RegisterFormHandler(new BagXmlHandler<useDefaultButton>("useDefaultButton"));
+    RegisterFormHandler(new BagXmlHandler<UserLine>("UserLine"));
+    RegisterFormHandler(new BagXmlHandler<UserTextNumber>("UserTextNumber"));
+    RegisterFormHandler(new BagXmlHandler<ucMaskedNumber>("ucMaskedNumber"));
+    RegisterFormHandler(new BagXmlHandler<UseTextBox>("UseTextBox"));
+    RegisterFormHandler(new BagXmlHandler<UseMultiLineTextBox>("UseMultiLineTextBox"));
+    RegisterFormHandler(new BagXmlHandler<UserText>("UserText"));
     return true;
   }();
   static_cast<void>(registered);

@@ -53,7 +53,7 @@ Decimal ParseDecimal(const wxString& value, const wxString& trimmed) {
   return decimal;
 }
 
-double ToWholeNumber(const wxString& value) {
+double ToNumber(const wxString& value) {
   wxString trimmed = value;
   trimmed.Trim(true).Trim(false);
   if (trimmed.empty()) return 0;
@@ -64,7 +64,11 @@ double ToWholeNumber(const wxString& value) {
     if (decimal.magnitudeAboveOne) ThrowTooLarge(value);
     return 0;
   }
-  return std::nearbyint(number);
+  return number;
+}
+
+double ToWholeNumber(const wxString& value) {
+  return std::nearbyint(ToNumber(value));
 }
 
 template <typename Integer>
@@ -84,6 +88,10 @@ std::int16_t Convert::ToInteger(const wxString& value) const {
 
 std::int32_t Convert::ToLong(const wxString& value) const {
   return ToWidth<std::int32_t>(value);
+}
+
+double Convert::ToDouble(const wxString& value) const {
+  return ToNumber(value);
 }
 
 bool Convert::ToBoolean(const wxString& value) const {

@@ -1,0 +1,9 @@
+#include "platform/ui/SpinButton.h"
+
+namespace mindloft::platform {
+
+int LeastHeight(const wxSpinButton&) {
+  return 0;
+}
+
+}  // namespace mindloft::platform
