@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "backend/directory/DirectoryLoader.h"
+#include "backend/directory/SqliteDirectory.h"
 #include "backend/directory/file/DirectoryFile.h"
 #include "backend/directory/file/Schema.h"
 #include "bench/SampleRows.h"
@@ -97,7 +98,7 @@ void Fill(const std::filesystem::path& file, std::uint32_t users) {
 
 void MeasureFilling(const std::filesystem::path& folder, std::uint32_t users, Report& report) {
   const auto loaded = folder / "loaded.mdir", plain = folder / "plain.mdir";
-  MakeEmpty(loaded);
+  SqliteDirectory::Create(loaded, {kAdministrator, kPassword}, true);
   MakeEmpty(plain);
   double making = Milliseconds([&] {
     for (std::uint32_t number = 1; number <= users; ++number) SampleUser(number);

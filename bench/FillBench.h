@@ -7,6 +7,10 @@
 
 namespace mindloft::bench {
 
+/// Who logs in to a filled directory.
+inline constexpr const char* kAdministrator = "bench-administrator";
+inline constexpr const char* kPassword = "a password for measuring";
+
 /// An empty directory file with the present schema.
 void MakeEmpty(const std::filesystem::path& file);
 /// Fills an empty directory with sample users, domains and groups.

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "backend/errors/Error.h"
+#include "bench/ChangeBench.h"
 #include "bench/FillBench.h"
 #include "bench/ReadBench.h"
 
@@ -21,6 +22,7 @@ int main(int count, char** arguments) try {
   const auto file = folder / "loaded.mdir";
   if (!std::filesystem::exists(file)) bench::MeasureFilling(folder, users, report);
   bench::MeasureReading(file, report);
+  bench::MeasureChanging(file, report);
   return report.Passed() ? EXIT_SUCCESS : EXIT_FAILURE;
 } catch (...) {
   std::fprintf(stderr, "%s\n", mindloft::CurrentError().what());

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <random>
 
@@ -75,7 +77,11 @@ class IndexTest : public testing::Test {
         .Run();
     model_.users[user.id] = user;
   }
-  void Remove(ObjectId id) {
+  void Remove(const std::vector<ObjectId>& ids) {
+    for (ObjectId id : ids) RemoveRows(id);
+    index_.Remove(ids);
+  }
+  void RemoveRows(ObjectId id) {
     for (auto [table, members] :
          {std::pair("domain_user", &model_.domainUsers), std::pair("group_member", &model_.groupMembers),
           std::pair("role_member", &model_.roleMembers)}) {
@@ -83,7 +89,6 @@ class IndexTest : public testing::Test {
       for (auto& entry : *members) std::erase(entry.second, id);
     }
     database_.Prepare("DELETE FROM user WHERE id=?")->BindAll(id).Run();
-    index_.Remove(id, TextsOf(model_.users[id]));
     model_.users.erase(id);
   }
   void Join(const char* table, std::map<ObjectId, std::vector<ObjectId>>& members, ObjectId owner,
@@ -91,6 +96,14 @@ class IndexTest : public testing::Test {
     auto insert = database_.Prepare("INSERT OR IGNORE INTO " + std::string(table) + " VALUES(?,?)");
     insert->BindAll(owner, user).Run();
     if (database_.Changes() > 0) members[owner].push_back(user);
+  }
+
+  /// That many different users, if there are so many.
+  std::vector<ObjectId> AnyUsers(std::size_t count) {
+    std::vector<ObjectId> all, some;
+    for (const auto& user : model_.users) all.push_back(user.first);
+    std::sample(all.begin(), all.end(), std::back_inserter(some), count, random_);
+    return some;
   }
 
   ObjectId AnyUser() {
@@ -107,7 +120,7 @@ class IndexTest : public testing::Test {
     } else if (kind < 5) {
       Change(RandomUser(AnyUser()));
     } else if (kind == 5) {
-      Remove(AnyUser());
+      Remove(AnyUsers(random_() % 4 == 0 ? random_() % 40 : 1));
     } else if (kind == 6) {
       Join("domain_user", model_.domainUsers, 1 + static_cast<ObjectId>(random_() % 2), AnyUser());
     } else {
@@ -191,10 +204,38 @@ TEST_F(IndexModelTest, AnswersAsAPlainSearchWould) {
   }
   // Down to the last user, so that all blocks go.
   sqlite::Transaction transaction(database_);
-  while (!model_.users.empty()) Remove(AnyUser());
+  while (!model_.users.empty()) Remove({AnyUser()});
   transaction.Commit();
   EXPECT_EQ(index_.Check(), std::vector<std::string>());
   ExpectAgreement(index_, {});
+}
+
+TEST_F(IndexTest, RemovesOneAndManyFromManyBlocks) {
+  sqlite::Transaction transaction(database_);
+  for (ObjectId id = 1; id <= 1500; ++id) Add(RandomUser(id));
+  // One is searched for, many are sifted out of all blocks.
+  for (const std::size_t count : {1u, 30u, 2u, 400u, 1u, 700u}) {
+    Remove(AnyUsers(count));
+    ExpectAgreement(index_, {});
+    ASSERT_EQ(index_.Check(), std::vector<std::string>());
+  }
+  const auto left = model_.users.size();
+  index_.Remove(std::vector<ObjectId>{5000, 5001, 5002});
+  EXPECT_EQ(index_.Count({}), static_cast<std::int64_t>(left)) << "nobody has these identifiers";
+  Remove(AnyUsers(left));
+  EXPECT_EQ(index_.Count({}), 0);
+  EXPECT_EQ(index_.Check(), std::vector<std::string>());
+  transaction.Commit();
+}
+
+TEST_F(IndexTest, RefusesToRemoveManyFromDamagedOrders) {
+  sqlite::Transaction transaction(database_);
+  for (ObjectId id = 1; id <= 40; ++id) Add(RandomUser(id));
+  // In a block of the first order, somebody who is no user has taken a user's place.
+  database_.Execute(
+      "UPDATE user_order_block SET users=substr(users,5)||x'0f270000' "
+      "WHERE id=(SELECT min(id) FROM user_order_block WHERE length(users)>4)");
+  EXPECT_THROW(index_.Remove(AnyUsers(40)), Error);
 }
 
 TEST_F(IndexModelTest, ForgetsWhatWasRolledBackAndSeesOtherConnections) {

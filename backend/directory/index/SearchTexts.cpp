@@ -36,20 +36,29 @@ void SearchTexts::CreateTable(sqlite::Database& database) {
   database.Execute("CREATE TABLE user_text(chunk INTEGER PRIMARY KEY, texts BLOB NOT NULL)");
 }
 
-sqlite::CachedStatement SearchTexts::Select(PackedId id) {
+sqlite::CachedStatement SearchTexts::Select(std::int64_t chunk) {
   auto select = database_.Prepare("SELECT texts FROM user_text WHERE chunk=?");
-  select->BindAll(ChunkOf(id));
+  select->BindAll(chunk);
   return select;
 }
 
+void SearchTexts::Write(std::int64_t chunk, const std::string& stored) {
+  if (TextChunk(stored).Empty()) {
+    database_.Prepare("DELETE FROM user_text WHERE chunk=?")->BindAll(chunk).Run();
+    return;
+  }
+  auto put = database_.Prepare("INSERT OR REPLACE INTO user_text(chunk,texts) VALUES(?,?)");
+  put->Bind(0, chunk).BindBlob(1, stored).Run();
+}
+
 std::optional<FoldedUser> SearchTexts::Find(PackedId id) {
-  auto select = Select(id);
+  auto select = Select(ChunkOf(id));
   if (!select->Step()) return std::nullopt;
   return TextChunk(select->BlobView(0)).UserAt(SlotOf(id));
 }
 
 std::string_view SearchTexts::Key(PackedId id, Order order) {
-  auto select = Select(id);
+  auto select = Select(ChunkOf(id));
   if (select->Step()) {
     if (auto key = TextChunk(select->BlobView(0)).KeyAt(SlotOf(id), order)) {
       key_ = *key;
@@ -62,17 +71,32 @@ std::string_view SearchTexts::Key(PackedId id, Order order) {
 void SearchTexts::Put(PackedId id, const FoldedUser* user) {
   std::string changed;
   {
-    auto select = Select(id);
+    auto select = Select(ChunkOf(id));
     TextChunk chunk(select->Step() ? select->BlobView(0) : std::string_view());
     changed = chunk.With(SlotOf(id), user);
   }
-  if (TextChunk(changed).Empty()) {
-    auto remove = database_.Prepare("DELETE FROM user_text WHERE chunk=?");
-    remove->BindAll(ChunkOf(id)).Run();
-    return;
-  }
-  auto put = database_.Prepare("INSERT OR REPLACE INTO user_text(chunk,texts) VALUES(?,?)");
-  put->Bind(0, ChunkOf(id)).BindBlob(1, changed).Run();
+  Write(ChunkOf(id), changed);
+}
+
+std::int64_t SearchTexts::Remove(const IdSet& users) {
+  std::int64_t removed = 0;
+  users.ForEachStretch(kUsers, [&](std::size_t number) {
+    const auto chunk = static_cast<std::int64_t>(number);
+    std::string changed;
+    {
+      auto select = Select(chunk);
+      if (!select->Step()) return;
+      const auto stays = [&](std::size_t slot) {
+        return !users.Has(static_cast<PackedId>(number * kUsers + slot));
+      };
+      std::size_t gone = 0;
+      changed = TextChunk(select->BlobView(0)).Only(stays, gone);
+      if (gone == 0) return;
+      removed += static_cast<std::int64_t>(gone);
+    }
+    Write(chunk, changed);
+  });
+  return removed;
 }
 
 IdSet SearchTexts::Search(const std::string& text, const IdSet* within) {

@@ -23,12 +23,15 @@ class SearchTexts {
   std::string_view Key(PackedId id, Order order);
   /// Nullptr: the user goes.
   void Put(PackedId id, const FoldedUser* user);
+  /// Takes all these users out and returns how many of them there were.
+  std::int64_t Remove(const IdSet& users);
   /// The users one of whose texts holds the folded, not empty `text`; only those of `within` when there is
   /// one.
   IdSet Search(const std::string& text, const IdSet* within);
 
  private:
-  sqlite::CachedStatement Select(PackedId id);
+  sqlite::CachedStatement Select(std::int64_t chunk);
+  void Write(std::int64_t chunk, const std::string& stored);
   sqlite::Database& database_;
   std::string key_;
 };

@@ -63,6 +63,18 @@ std::string TextChunk::With(std::size_t slot, const FoldedUser* user) const {
   return writer.Finish();
 }
 
+std::string TextChunk::Only(const std::function<bool(std::size_t slot)>& stays, std::size_t& gone) const {
+  TextChunkWriter writer;
+  for (std::size_t slot = 0; slot < kUsers; ++slot) {
+    const std::string_view line = LineOf(slot);
+    if (stays(slot))
+      writer.Add(slot, line);
+    else if (!line.empty())
+      ++gone;
+  }
+  return writer.Finish();
+}
+
 void TextChunk::AppendUser(std::string& texts, const FoldedUser& user) {
   for (const auto& key : user.keys) {
     texts += key;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,8 @@ class TextChunk {
   std::optional<std::string_view> KeyAt(std::size_t slot, Order order) const;
   /// The stored form with another user, or none, in this slot.
   std::string With(std::size_t slot, const FoldedUser* user) const;
+  /// The stored form with those users only whose slots `stays` is true for; adds the others to `gone`.
+  std::string Only(const std::function<bool(std::size_t slot)>& stays, std::size_t& gone) const;
   bool Empty() const { return texts_.empty(); }
 
   /// One key in one user's bytes; DirectoryDamaged when they do not hold it.

@@ -9,6 +9,12 @@
 #include "backend/directory/index/Selections.h"
 
 namespace mindloft {
+namespace {
+
+/// How many blocks of the orders are read and sifted in the time that finding and removing one user takes.
+constexpr std::size_t kBlocksPerSearch = 100;
+
+}  // namespace
 
 struct UserIndex::Impl {
   Impl(sqlite::Database& file, std::size_t sizeOfBlocks)
@@ -46,6 +52,7 @@ struct UserIndex::Impl {
     return selection ? selection->CountBefore(order, query.order, place) : order.CountBefore(place);
   }
   void Put(PackedId id, const FoldedUser* user);
+  void Remove(std::span<const ObjectId> users);
 
   sqlite::Database& database;
   std::size_t blockSize;
@@ -72,6 +79,18 @@ void UserIndex::Impl::Put(PackedId id, const FoldedUser* user) {
   }
 }
 
+void UserIndex::Impl::Remove(std::span<const ObjectId> users) {
+  Forget();
+  if (users.size() * kBlocksPerSearch < OrderOf(Order::Name).Blocks().size()) {
+    for (ObjectId id : users) Put(PackId(id), nullptr);
+    return;
+  }
+  IdSet gone;
+  for (ObjectId id : users) gone.Add(PackId(id));
+  const auto removed = texts.Remove(gone);
+  for (auto& order : orders) order.Remove(gone, removed);
+}
+
 UserIndex::UserIndex(sqlite::Database& database, std::size_t blockSize)
     : impl_(std::make_unique<Impl>(database, blockSize)) {}
 
@@ -91,8 +110,8 @@ void UserIndex::Change(ObjectId id, const UserTexts&, const UserTexts& after) {
   Insert(id, after);
 }
 
-void UserIndex::Remove(ObjectId id, const UserTexts&) {
-  impl_->Put(PackId(id), nullptr);
+void UserIndex::Remove(std::span<const ObjectId> users) {
+  impl_->Remove(users);
 }
 
 void UserIndex::Rebuild() {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,7 +41,8 @@ class UserIndex {
   void Insert(ObjectId id, const UserTexts& texts);
   /// The index knows the user's texts so far by itself.
   void Change(ObjectId id, const UserTexts& before, const UserTexts& after);
-  void Remove(ObjectId id, const UserTexts& texts);
+  /// Many at once cost far less than one by one.
+  void Remove(std::span<const ObjectId> users);
   /// Builds everything anew from the user table.
   void Rebuild();
   /// What is wrong, in words; empty when the index agrees with the user table.

@@ -126,6 +126,23 @@ void UserOrder::Remove(PackedId id, std::string_view key) {
   blocks_.WriteMap(*map_);
 }
 
+void UserOrder::Remove(const IdSet& users, std::int64_t count) {
+  if (count == 0) return;
+  for (std::size_t block = 0; block < Blocks().size();) {
+    auto ids = Ids(block);
+    const auto gone = std::erase_if(ids, [&](PackedId id) { return users.Has(id); });
+    count -= static_cast<std::int64_t>(gone);
+    const auto blocks = map_->size();
+    if (gone > 0) Shrink(block, std::move(ids));
+    // Where a block went, its place is that of another one now, which may hold more of the users.
+    if (map_->size() == blocks) ++block;
+  }
+  if (count != 0) {
+    throw Error(ErrorNumber::DirectoryDamaged, std::to_string(count) + " users are not in their order");
+  }
+  blocks_.WriteMap(*map_);
+}
+
 /// Writes the block that has become smaller, or joins it to a neighbour.
 void UserOrder::Shrink(std::size_t block, std::vector<PackedId> ids) {
   auto& map = *map_;

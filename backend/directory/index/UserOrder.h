@@ -29,6 +29,10 @@ class UserOrder {
   /// The user's texts must still be the ones that it was inserted with.
   void Remove(PackedId id, std::string_view key);
 
+  /// Takes all these users out in one pass over the blocks, whatever their texts are. `count` is how many of
+  /// them the order must hold.
+  void Remove(const IdSet& users, std::int64_t count);
+
   /// A place in the order; that of the end has the number of the blocks as its block.
   struct Place {
     std::size_t block = 0, offset = 0;

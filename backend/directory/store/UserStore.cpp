@@ -165,11 +165,15 @@ void UserStore::Delete(const Caller& caller, const std::vector<ObjectVersion>& u
                        const Progress& progress) {
   parts_.rights.Require(caller, DeleteUsers);
   ProgressSteps steps(progress, std::ssize(users));
+  std::vector<ObjectId> ids;
+  ids.reserve(users.size());
   for (const auto& user : users) {
     if (user.id == caller.user) throw Error(ErrorNumber::OwnAccount);
     DeleteOne(caller, Require(user));
+    ids.push_back(user.id);
     steps.Done(1);
   }
+  index_.Remove(ids);
   RequireUserManager(parts_.database);
 }
 
@@ -190,7 +194,6 @@ void UserStore::DeleteOne(const Caller& caller, const UserRecord& user) {
                           "DELETE FROM user_configuration WHERE user = ?", "DELETE FROM user WHERE id = ?"}) {
     parts_.database.Prepare(sql)->BindAll(user.id).Run();
   }
-  index_.Remove(user.id, TextsOf(user));
   parts_.journal.Write(caller.name, "delete", SubjectOf(user), before);
 }
 

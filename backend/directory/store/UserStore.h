@@ -30,6 +30,7 @@ class UserStore {
   UserRecord Require(const ObjectVersion& user);
 
  private:
+  /// All but the place in the index.
   void DeleteOne(const Caller& caller, const UserRecord& user);
   std::vector<std::pair<ObjectId, std::string>> Containers(const char* sql, ObjectId user);
 
