@@ -1,8 +1,11 @@
 #pragma once
 
+#include "controls/buttons/ButtonLook.h"
 #include "gallery/GalleryPart.h"
 
 namespace mindloft {
+
+class MyButton;
 
 /// The button controls in every state.
 class ButtonsPart : public GalleryPart {
@@ -11,6 +14,8 @@ class ButtonsPart : public GalleryPart {
 
  private:
   void Fill();
+  void AddStates();
+  void TellEvents(MyButton& button) const;
 };
 
 }  // namespace mindloft

@@ -10,7 +10,18 @@ namespace {
 /// The least difference of perceived brightness (0 to 1) between a text and what is behind it.
 constexpr double kLeastDifference = 0.3;
 
+/// How dark the darkest edge is beside the shadow, in percent, where the desktop has no colour for it.
+constexpr int kDarkerShadow = 55;
+
 }  // namespace
+
+wxColour DarkShadow() {
+  const wxColour dark = k3DDarkShadowColour.Resolve();
+  const wxColour shadow = kButtonShadowColour.Resolve();
+  // The toolkit says black then, which is far too hard among soft colours.
+  const bool isMissing = dark == *wxBLACK && AreDistinct(shadow, dark);
+  return isMissing ? shadow.ChangeLightness(kDarkerShadow) : dark;
+}
 
 bool AreDistinct(const wxColour& one, const wxColour& other) {
   return std::fabs(one.GetLuminance() - other.GetLuminance()) >= kLeastDifference;
@@ -31,7 +42,7 @@ ButtonColours::ButtonColours(const ButtonLook& look, const ButtonState& state)
     filling = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
     text = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT);
   }
-  border = k3DDarkShadowColour.Resolve();
+  border = DarkShadow();
   if (!AreDistinct(border, face)) border = text;
   outline = kButtonShadowColour.Resolve();
   if (!state.enabled) {

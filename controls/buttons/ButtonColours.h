@@ -19,6 +19,9 @@ struct ButtonColours {
   bool isFilled = false;
 };
 
+/// The system's 3-D dark shadow, or what takes its place on a desktop without one.
+wxColour DarkShadow();
+
 /// Whether one can be told from the other at a glance.
 bool AreDistinct(const wxColour& one, const wxColour& other);
 

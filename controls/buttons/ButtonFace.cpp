@@ -124,7 +124,7 @@ void ButtonFace::Draw3DEffect(wxDC& dc, wxRect rect) const {
   if (!raised && !state_.pressed) return;
   const int line = Pixels(kLine);
   wxColour light[] = {k3DHighlightColour.Resolve(), k3DLightColour.Resolve()};
-  wxColour dark[] = {k3DDarkShadowColour.Resolve(), kButtonShadowColour.Resolve()};
+  wxColour dark[] = {DarkShadow(), kButtonShadowColour.Resolve()};
   if (state_.pressed) std::swap(light, dark);
   for (int edge = 0; edge < 2; ++edge) {
     DrawFrame(dc, rect, line, light[edge], dark[edge]);

@@ -98,10 +98,8 @@ TEST_F(MyButtonFaceTest, TheEdgesHaveTheSystemsColours) {
     const wxImage face = Draw(state);
     return std::pair(At(face, 1, 30), At(face, 118, 30));
   };
-  EXPECT_EQ(corners(State(&ButtonState::hovering)),
-            std::pair(k3DHighlightColour.Resolve(), k3DDarkShadowColour.Resolve()));
-  EXPECT_EQ(corners(State(&ButtonState::pressed)),
-            std::pair(k3DDarkShadowColour.Resolve(), k3DHighlightColour.Resolve()));
+  EXPECT_EQ(corners(State(&ButtonState::hovering)), std::pair(k3DHighlightColour.Resolve(), DarkShadow()));
+  EXPECT_EQ(corners(State(&ButtonState::pressed)), std::pair(DarkShadow(), k3DHighlightColour.Resolve()));
   look_.backColor = kGreen;
   look_.borderEdged = 1;
   look_.borderEdgedColor = kRed;
