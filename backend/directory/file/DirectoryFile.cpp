@@ -1,5 +1,6 @@
 #include "backend/directory/file/DirectoryFile.h"
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,9 @@
 
 namespace mindloft {
 namespace {
+
+/// How long a change waits for those of other connections.
+constexpr std::chrono::milliseconds kPatience(5000);
 
 /// Reads the first page of every table: what is broken there, or missing, shows before anything is changed.
 void ProbeTables(sqlite::Database& database) {
@@ -43,7 +47,7 @@ void ProbeTables(sqlite::Database& database) {
 }  // namespace
 
 void ConfigureConnection(sqlite::Database& database) {
-  sqlite3_busy_timeout(database.Handle(), 5000);
+  database.WaitWhileBusy(kPatience);
   // A file may come from anywhere: its schema must not run functions with side effects.
   sqlite3_db_config(database.Handle(), SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
   sqlite3_db_config(database.Handle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);

@@ -56,7 +56,7 @@ void SettleLog(const fs::path& file) {
   if (fs::exists(Beside(file, "-wal"))) {
     try {
       sqlite::Database old(file, SQLITE_OPEN_READWRITE);
-      sqlite3_busy_timeout(old.Handle(), 1000);
+      old.WaitWhileBusy(std::chrono::milliseconds(1000));
       old.Execute("PRAGMA journal_mode = DELETE");
     } catch (const Error& error) {
       if (error.Number() == ErrorNumber::DirectoryBusy) throw;

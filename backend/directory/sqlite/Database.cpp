@@ -114,6 +114,10 @@ Database::Database(const std::filesystem::path& file, int flags) {
   sqlite3_extended_result_codes(database, 1);
 }
 
+void Database::WaitWhileBusy(std::chrono::milliseconds patience) {
+  busyWait_ = std::make_unique<BusyWait>(database_.get(), patience);
+}
+
 void Database::Execute(const char* sql) {
   int code = sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr);
   if (code != SQLITE_OK) ThrowLastError(database_.get(), code, sql);

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -11,6 +12,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "backend/directory/sqlite/BusyWait.h"
 #include "backend/errors/Error.h"
 
 namespace mindloft::sqlite {
@@ -87,6 +89,8 @@ class Database {
   /// `flags` are SQLITE_OPEN_... flags.
   Database(const std::filesystem::path& file, int flags);
 
+  /// From here on waits so long for a file that another connection is changing; without it, not at all.
+  void WaitWhileBusy(std::chrono::milliseconds patience);
   void Execute(const char* sql);
   /// The cached statement of this text, prepared at its first use. One use of it at a time.
   CachedStatement Prepare(std::string_view sql);
@@ -106,6 +110,7 @@ class Database {
     using is_transparent = void;
     std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
   };
+  std::unique_ptr<BusyWait> busyWait_;  // goes after the connection
   std::unique_ptr<sqlite3, Close> database_;
   std::int64_t ownTransactions_ = 0;
   // Closed before the database.
