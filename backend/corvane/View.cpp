@@ -3,33 +3,21 @@
 namespace mindloft::Corvane {
 namespace {
 
-// One reader per kind of record, so that the template below finds its page call by type.
-using Position = std::int64_t;
-
-void Read(const Session& session, const Query& query, Position first, Position count,
-          std::vector<UserRecord>& page) {
-  page = session.Door().UserPage(session.id, query, first, count);
-}
-void Read(const Session& session, const Query& query, Position first, Position count,
-          std::vector<RoleRecord>& page) {
-  page = session.Door().RolePage(session.id, query, first, count);
-}
-void Read(const Session& session, const Query& query, Position first, Position count,
-          std::vector<DomainRecord>& page) {
-  page = session.Door().DomainPage(session.id, query, first, count);
-}
-void Read(const Session& session, const Query& query, Position first, Position count,
-          std::vector<GroupRecord>& page) {
-  page = session.Door().GroupPage(session.id, query, first, count);
-}
-void Read(const Session& session, const Query& query, Position first, Position count,
-          std::vector<StyleRecord>& page) {
-  page = session.Door().StylePage(session.id, query, first, count);
-}
-void Read(const Session& session, const Query& query, Position first, Position count,
-          std::vector<JournalRecord>& page) {
-  page = session.Door().JournalPage(session.id, query, first, count);
-}
+/// The directory's page call for a kind of record.
+template <typename Record>
+constexpr auto kPageCall = nullptr;
+template <>
+constexpr auto kPageCall<UserRecord> = &Directory::UserPage;
+template <>
+constexpr auto kPageCall<RoleRecord> = &Directory::RolePage;
+template <>
+constexpr auto kPageCall<DomainRecord> = &Directory::DomainPage;
+template <>
+constexpr auto kPageCall<GroupRecord> = &Directory::GroupPage;
+template <>
+constexpr auto kPageCall<StyleRecord> = &Directory::StylePage;
+template <>
+constexpr auto kPageCall<JournalRecord> = &Directory::JournalPage;
 
 }  // namespace
 
@@ -53,9 +41,7 @@ std::int64_t View<Record>::TotalCount() const {
 
 template <typename Record>
 std::vector<Record> View<Record>::Page(std::int64_t first, std::int64_t count) const {
-  std::vector<Record> page;
-  Read(*session_, query_, first, count, page);
-  return page;
+  return (session_->Door().*kPageCall<Record>)(session_->id, query_, first, count);
 }
 
 template <typename Record>
