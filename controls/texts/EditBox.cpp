@@ -47,7 +47,10 @@ void EditBox::PutSelection(const wxString& text) {
   const wxString permitted = Permitted(Holdable(text), CharactersBesideSelection(), rules_);
   // A text of which nothing is let in replaces nothing.
   if (permitted.empty() && !text.empty()) return;
+  // One change, also where the desktop tells of the removal and of the insertion.
+  isPutting_ = true;
   WriteText(permitted);
+  isPutting_ = false;
   OnText();
 }
 
@@ -70,6 +73,7 @@ void EditBox::ShowText(const wxString& text, std::size_t caret) {
 
 // Every way in ends here: what the rules do not let in is taken out again.
 void EditBox::OnText() {
+  if (isPutting_) return;
   const wxString now = GetValue();
   TextChange change = DifferenceOf(text_, now);
   if (change.IsNone()) return;

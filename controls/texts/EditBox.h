@@ -86,6 +86,7 @@ class EditBox : public wxTextCtrl {
   wxString text_;  ///< as it was told last
   bool isSecret_ = false;
   bool isTabStop_ = true;
+  bool isPutting_ = false;
   bool isPressed_ = false;  ///< the left button went down inside
 };
 

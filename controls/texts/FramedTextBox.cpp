@@ -28,7 +28,7 @@ void FramedTextBox::CreateLayers(wxWindow* parent, wxWindowID id, const wxPoint&
 
 EditBox* FramedTextBox::AddBox(const wxString& name, long boxStyle) {
   auto* box = new EditBox(picBackGround, name, boxStyle, *this, *this, className_);
-  platform::AlignText(*box, TwipsToPixels(wxRect(0, 0, TextLayersEdge(), 0), *this).width);
+  platform::PutInsideFrame(*box, TwipsToPixels(wxRect(0, 0, TextLayersEdge(), 0), *this).width);
   // The label may change with the language.
   platform::SetAccessibleName(*box, [this] {
     const wxString label = LabelBefore(*this);

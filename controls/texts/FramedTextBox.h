@@ -42,7 +42,8 @@ class FramedTextBox : public wxCompositeWindowSettersOnly<wxPanel>,
   void SetEnabled(bool enabled);
   bool Locked() const { return isLocked_; }
   void SetLocked(bool locked);
-  /// Characters; 0: no limit. Throws Overflow for a negative one.
+  /// Characters; 0: no limit but the desktop's own (GTK: 64 KiB in one line). Throws Overflow for a negative
+  /// one.
   std::int16_t MaxLength() const { return maxLength_; }
   void SetMaxLength(std::int16_t characters);
   // Places past the end become the end.

@@ -1,5 +1,6 @@
 #include <wx/settings.h>
 
+#include "controls/texts/BoxColours.h"
 #include "controls/texts/FrameLayer.h"
 #include "controls/texts/FramedTextBox.h"
 #include "core/ErrorHandling.h"
@@ -69,7 +70,7 @@ wxColour FramedTextBox::BoxColour() const {
 }
 
 void FramedTextBox::ApplyColours() {
-  const wxColour foreground = foreColor_ == kWindowTextColour ? wxColour() : foreColor_.Resolve();
+  const wxColour foreground = IsEnabled() ? TextColourOn(backColor_, foreColor_) : wxColour();
   ForEachBox([&](EditBox& box) {
     box.SetBackgroundColour(BoxColour());
     box.SetForegroundColour(foreground);

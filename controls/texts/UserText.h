@@ -74,6 +74,7 @@ class UserText : public wxCompositeWindowSettersOnly<wxPanel>,
 
  protected:
   wxSize DoGetBestClientSize() const override;
+  void DoEnable(bool enable) override;
   wxWindowList GetCompositeWindowParts() const override;
 
  private:

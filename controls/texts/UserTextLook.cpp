@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "controls/texts/BoxColours.h"
 #include "controls/texts/TextLayers.h"
 #include "controls/texts/UserText.h"
 #include "core/ErrorHandling.h"
@@ -83,9 +84,14 @@ void UserText::ApplyColours() {
   const wxColour back = isForms ? wxColour() : backColor_.Resolve();
   wxPanel::SetBackgroundColour(back);
   txtUser->SetBackgroundColour(back);
-  txtUser->SetForegroundColour(foreColor_ == kWindowTextColour ? wxColour() : foreColor_.Resolve());
+  txtUser->SetForegroundColour(IsEnabled() ? TextColourOn(backColor_, foreColor_) : wxColour());
   txtUser->Refresh();
   Refresh();
+}
+
+void UserText::DoEnable(bool enable) {
+  wxPanel::DoEnable(enable);
+  if (txtUser) ApplyColours();
 }
 
 int UserText::FrameWidth() const {

@@ -13,9 +13,10 @@ namespace mindloft::platform {
 /// the desktop neither copies nor drags the text.
 void SetPasswordCharacter(wxTextCtrl& box, char32_t character);
 
-/// Moves the text of a box without a border to where the desktop's own box shows it, when layers around it
-/// take `around` pixels at its left and right already. Where the two are the same place, nothing is done.
-void AlignText(wxTextCtrl& box, int around);
+/// Makes a box without a border the inside of a frame that is drawn around it: it draws neither a frame nor a
+/// focus of its own, and its text stands where the desktop's own box shows it. The frame takes `around`
+/// pixels at its left and right already.
+void PutInsideFrame(wxTextCtrl& box, int around);
 
 /// Underlines the text as its font tells, where the desktop does not do so by itself.
 void ApplyUnderline(wxTextCtrl& box);

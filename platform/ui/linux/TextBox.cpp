@@ -32,16 +32,17 @@ void SetPasswordCharacter(wxTextCtrl& box, char32_t character) {
     gtk_entry_unset_invisible_char(entry);
 }
 
-void AlignText(wxTextCtrl& box, int around) {
+void PutInsideFrame(wxTextCtrl& box, int around) {
   if (!GTK_IS_ENTRY(box.m_widget)) return;
   const auto style = EntryStyle(box.m_widget, {});
   GtkBorder padding, border;
   gtk_style_context_get_padding(style.get(), GTK_STATE_FLAG_NORMAL, &padding);
   gtk_style_context_get_border(style.get(), GTK_STATE_FLAG_NORMAL, &border);
   const auto rest = [&](int own) { return std::to_string(std::max(0, own - around)) + "px"; };
-  // The box has a transparent border of the theme's own width besides.
-  const std::string rule = "entry { border-width: 0; padding-left: " + rest(padding.left + border.left) +
-                           "; padding-right: " + rest(padding.right + border.right) + "; }";
+  const std::string rule =
+      "entry, entry:focus { border: none; box-shadow: none; outline-style: none; background: transparent;"
+      " padding-left: " +
+      rest(padding.left + border.left) + "; padding-right: " + rest(padding.right + border.right) + "; }";
   AddRule(gtk_widget_get_style_context(box.m_widget), rule);
 }
 

@@ -33,7 +33,7 @@ void SetPasswordCharacter(wxTextCtrl& box, char32_t character) {
   box.Refresh();
 }
 
-void AlignText(wxTextCtrl&, int) {}
+void PutInsideFrame(wxTextCtrl&, int) {}
 void ApplyUnderline(wxTextCtrl&) {}
 // The system draws what is only read on the form's ground by itself.
 void ShowGround(wxTextCtrl&) {}

@@ -1,0 +1,43 @@
+#include <gtest/gtest.h>
+#include <wx/panel.h>
+
+#include "gallery/frmControls.h"
+#include "tests/support/gui/PrivateServices.h"
+#include "tests/support/gui/User.h"
+#include "tests/support/gui/WaitFor.h"
+
+namespace mindloft::test {
+namespace {
+
+class GalleryTest : public PrivateServices {};
+
+/// Every control that is shown lies wholly inside what surrounds it.
+void ExpectInside(const wxWindow& window) {
+  for (const wxWindow* child : window.GetChildren()) {
+    if (!child->IsShown() || child->IsTopLevel()) continue;
+    const wxRect room(wxPoint(), window.GetVirtualSize());
+    EXPECT_TRUE(room.Contains(child->GetRect()))
+        << child->GetName() << " in " << window.GetName() << ": " << child->GetRect().GetRight() << ", "
+        << child->GetRect().GetBottom() << " of " << room.width << ", " << room.height;
+    if (dynamic_cast<const wxPanel*>(child)) ExpectInside(*child);
+  }
+}
+
+TEST_F(GalleryTest, ShowsAllOnOnePageInEveryLanguage) {
+  for (const int language : {1033, 2052, 1025}) {
+    ASSERT_TRUE(GetResource().SwitchLanguage(language));
+    auto* form = new frmControls;
+    form->Show();
+    WaitFor([&] { return form->IsShownOnScreen(); }, "the page");
+    Settle();
+    EXPECT_LE(form->GetSize().x, 1280) << language;
+    EXPECT_LE(form->GetSize().y, 1000) << language;
+    for (const char* part : {"NumbersPart", "TextsPart", "ButtonsPart"})
+      ExpectInside(User(*form).Find<wxPanel>(part));
+    form->Destroy();
+    Settle();
+  }
+}
+
+}  // namespace
+}  // namespace mindloft::test
