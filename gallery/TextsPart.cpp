@@ -41,7 +41,7 @@ void TextsPart::Fill() {
       };
     }
   }
-  Find<UseTextBox>("txtHint")->SetLabel("shown while it is empty");
+  Find<UseTextBox>("txtHint")->SetLabel("while it is empty");
   auto* coloured = Find<UseTextBox>("txtFont");
   coloured->SetFontBold(true);
   coloured->SetFontItalic(true);

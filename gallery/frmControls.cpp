@@ -15,7 +15,7 @@
 namespace mindloft {
 namespace {
 
-constexpr int kGap = 8;
+constexpr int kGap = 4;
 constexpr int kBorders = 60;
 
 }  // namespace
@@ -25,26 +25,26 @@ frmControls::frmControls() {
   Create(nullptr, wxID_ANY, "Mindloft controls", wxPoint(0, 0), wxDefaultSize, wxDEFAULT_FRAME_STYLE,
          "frmControls");
   SetIcons(WindowIcons());
-  auto* lastEvent = new wxStaticText(this, wxID_ANY, "The last event stands here.", wxDefaultPosition,
-                                     wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
-  const auto tell = [lastEvent](const wxString& event) { lastEvent->SetLabelText(event); };
 
   // For screens that are smaller than the page.
   auto* page = new wxScrolledWindow(this);
   page->SetScrollRate(FromDIP(kGap), FromDIP(kGap));
   auto* columns = new wxBoxSizer(wxHORIZONTAL);
+  auto* lastEvent = new wxStaticText(page, wxID_ANY, "The last event stands here.", wxDefaultPosition,
+                                     wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+  const auto tell = [lastEvent](const wxString& event) { lastEvent->SetLabelText(event); };
   const auto addColumn = [&](std::initializer_list<wxWindow*> parts) {
     auto* column = new wxBoxSizer(wxVERTICAL);
     for (wxWindow* part : parts) column->Add(part, wxSizerFlags().Expand().Border(wxALL, FromDIP(kGap)));
-    columns->Add(column, wxSizerFlags(1));
+    columns->Add(column, wxSizerFlags().Expand());
   };
-  addColumn({new TextsPart(page, tell)});
+  // The line of events stands where the page has room.
+  addColumn({new TextsPart(page, tell), lastEvent});
   addColumn({new NumbersPart(page, tell), new ButtonsPart(page, tell)});
   page->SetSizer(columns);
 
   auto* whole = new wxBoxSizer(wxVERTICAL);
   whole->Add(page, wxSizerFlags(1).Expand());
-  whole->Add(lastEvent, wxSizerFlags().Expand().Border(wxALL, FromDIP(kGap)));
   SetSizer(whole);
   ApplyLayoutDirection(*this);
   // The window manager tells how much its borders take only when the window is there: until then there is

@@ -4,7 +4,7 @@
 
 namespace mindloft {
 
-/// The one page on which every control of the console stands in every state. The line at its bottom tells the last
+/// The one page on which every control of the console stands in every state. A line on it tells the last
 /// event that one of them raised.
 class frmControls : public wxFrame {
  public:
