@@ -41,7 +41,7 @@ void TextsPart::Fill() {
       };
     }
   }
-  Find<UseTextBox>("txtHint")->SetLabel("while it is empty");
+  Find<UseTextBox>("txtHint")->SetLabel("while empty");
   auto* coloured = Find<UseTextBox>("txtFont");
   coloured->SetFontBold(true);
   coloured->SetFontItalic(true);

@@ -1,6 +1,6 @@
 #include "gallery/frmControls.h"
 
-#include <wx/scrolwin.h>
+#include <wx/panel.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
@@ -26,9 +26,7 @@ frmControls::frmControls() {
          "frmControls");
   SetIcons(WindowIcons());
 
-  // For screens that are smaller than the page.
-  auto* page = new wxScrolledWindow(this);
-  page->SetScrollRate(FromDIP(kGap), FromDIP(kGap));
+  auto* page = new wxPanel(this);
   auto* columns = new wxBoxSizer(wxHORIZONTAL);
   auto* lastEvent = new wxStaticText(page, wxID_ANY, "The last event stands here.", wxDefaultPosition,
                                      wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
@@ -42,20 +40,18 @@ frmControls::frmControls() {
   addColumn({new TextsPart(page, tell), lastEvent});
   addColumn({new NumbersPart(page, tell), new ButtonsPart(page, tell)});
   page->SetSizer(columns);
-
-  auto* whole = new wxBoxSizer(wxVERTICAL);
-  whole->Add(page, wxSizerFlags(1).Expand());
-  SetSizer(whole);
   ApplyLayoutDirection(*this);
+
   // The window manager tells how much its borders take only when the window is there: until then there is
   // room for any.
-  const auto fitPage = [this, page, columns](int borders) {
-    page->SetMinSize(columns->GetMinSize() + wxSize(borders, borders));
-    Fit();
-    page->SetMinSize(wxDefaultSize);
-  };
-  fitPage(FromDIP(kBorders));
-  CallAfter([fitPage] { Guarded("frmControls", "Form_Load", [&] { fitPage(0); }); });
+  const wxSize borders(FromDIP(kBorders), FromDIP(kBorders));
+  SetClientSize(page->GetBestSize() + borders);
+  Bind(wxEVT_SHOW, [this, page](wxShowEvent& event) {
+    event.Skip();
+    if (!event.IsShown()) return;
+    CallAfter(
+        [this, page] { Guarded("frmControls", "Form_Load", [&] { SetClientSize(page->GetBestSize()); }); });
+  });
 }
 
 }  // namespace mindloft

@@ -28,7 +28,8 @@ TEST_F(GalleryTest, ShowsAllOnOnePageInEveryLanguage) {
     ASSERT_TRUE(GetResource().SwitchLanguage(language));
     auto* form = new frmControls;
     form->Show();
-    WaitFor([&] { return form->IsShownOnScreen(); }, "the page");
+    const wxWindow& page = *User(*form).Find<wxPanel>("TextsPart").GetParent();
+    WaitFor([&] { return form->GetClientSize() == page.GetBestSize(); }, "the form to fit its page");
     Settle();
     EXPECT_LE(form->GetSize().x, 1280) << language;
     EXPECT_LE(form->GetSize().y, 1000) << language;
