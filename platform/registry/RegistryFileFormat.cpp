@@ -77,7 +77,7 @@ std::optional<KeyLine> ParseKeyLine(std::string_view line) {
   for (const auto& [name, root] : Hives) {
     if (UpperCase(path.substr(0, hiveEnd)) != name) continue;
     auto key = NormalKey(std::string(path.substr(std::min(hiveEnd + 1, path.size()))));
-    if (isDeleted && key.empty()) return {};
+    if ((isDeleted && key.empty()) || HasControlCharacter(key)) return {};
     return KeyLine{root, key, isDeleted};
   }
   return {};
@@ -90,7 +90,7 @@ std::optional<RegistryFileFormat::Step> ParseValueLine(std::string_view line, co
   std::string_view rest;
   if (line.starts_with('@')) {
     rest = line.substr(1);
-  } else if (auto quoted = ParseQuoted(line, rest)) {
+  } else if (auto quoted = ParseQuoted(line, rest); quoted && !HasControlCharacter(*quoted)) {
     name = *quoted;
   } else {
     return {};

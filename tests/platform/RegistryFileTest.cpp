@@ -107,6 +107,8 @@ TEST(RegistryFile, UsesTheReadablePartOfADamagedFileAndKeepsTheWhole) {
       Header + "\"before any key\"=\"x\"\n" + good,
       Header + good + "[-HKEY_CURRENT_USER\\\\]\n",
       Header + good + "[HKEY_CURRENT_USER\\Sof",
+      Header + good + "[HKEY_CURRENT_USER\\Tab\there]\n\"x\"=\"y\"\n",
+      Header + good + "\"tab\there\"=\"y\"\n",
       std::string(4096, '\0') + "\n" + good,
   };
   for (const auto& content : damaged) {
