@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing of the Debian packages that a task needs: packages.sh build|test|run|windows|lint ...
+# Installs what is missing of the Debian packages that a task needs: packages.sh build|test|run|windows|lint|fuzz ...
 set -euo pipefail
 
 build="cmake ninja-build g++ pkg-config ccache libwxgtk3.2-dev libgtk-3-dev libsqlite3-dev libutf8proc-dev libpugixml-dev
@@ -11,11 +11,13 @@ run="$build $screen"
 windows="$test g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libgcrypt-mingw-w64-dev wine wine64 tcl dpkg-dev
   debian-archive-keyring ca-certificates wixl"
 lint="$build clang-format clang-tidy-16 git"
+# The oldest clang that reads the sources.
+fuzz="$build clang-16 libclang-rt-16-dev"
 
 wanted=
 for task in "$@"; do
   case $task in
-  build | test | run | windows | lint) wanted+=" ${!task}" ;;
+  build | test | run | windows | lint | fuzz) wanted+=" ${!task}" ;;
   *)
     echo "packages.sh: unknown task '$task'" >&2
     exit 2
