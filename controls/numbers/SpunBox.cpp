@@ -73,7 +73,6 @@ void SpunBox::CopyState(const wxTextCtrl& from) {
   box_->ChangeValue(from.GetValue());
   box_->SetEditable(from.IsEditable());
   box_->Enable(from.IsThisEnabled());
-  box_->SetFont(from.GetFont());
   if (from.UseBackgroundColour()) box_->SetBackgroundColour(from.GetBackgroundColour());
   long start = 0;
   long end = 0;

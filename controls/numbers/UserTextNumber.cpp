@@ -169,7 +169,7 @@ void UserTextNumber::SetSellength(long length) {
 }
 
 bool UserTextNumber::TextVerify(const wxString& text) const try {
-  if (Tessaline::StringHelper().IsBlank(text)) return true;
+  if (GetStringHelper().IsBlank(text)) return true;
   const auto number = picture_.Read(text);
   if (!number || std::fabs(*number) > FLT_MAX) return false;
   return RoundToWhole(static_cast<float>(*number)).has_value();
@@ -200,7 +200,7 @@ void UserTextNumber::OnTextChanged() {
 }
 
 void UserTextNumber::UpDown1_Change() {
-  if (Tessaline::StringHelper().IsBlank(Text())) SetText(NumberText(spin_.Minimum()));
+  if (GetStringHelper().IsBlank(Text())) SetText(NumberText(spin_.Minimum()));
   SetText(picture_.Format(spin_.Value()));
   Box().SetInsertionPointEnd();
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "backend/tessaline/Services.h"
 #include "backend/tessaline/StringHelper.h"
 #include "backend/tessaline/Text.h"
 #include "controls/bag/PropertyTable.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr const char* kName = "ucMaskedNumber";
 
 bool IsBlank(const wxString& text) {
-  return Tessaline::StringHelper().IsBlank(text);
+  return GetStringHelper().IsBlank(text);
 }
 
 /// Behind what was put into a text. Where the caret stands while the toolkit tells of a change depends on the
