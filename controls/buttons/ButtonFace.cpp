@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "controls/buttons/ButtonEdges.h"
+#include "controls/buttons/CharacterPlace.h"
 #include "controls/buttons/Emboss.h"
 
 namespace mindloft {
@@ -171,17 +172,17 @@ void ButtonFace::DrawCaption(wxDC& dc, const wxRect& rect) const {
 }
 
 void ButtonFace::DrawLine(wxDC& dc, const wxRect& rect, const wxString& line, int underlined) const {
-  const wxString shown = wxControl::Ellipsize(line, dc, wxELLIPSIZE_END, rect.width, wxELLIPSIZE_FLAGS_NONE);
-  const int width = TextExtent(shown).x;
-  const wxPoint at(rect.x + (rect.width - width) / 2, rect.y);
+  // The DC measures more finely than the window: what fits by the window's measure is never cut.
+  const bool fits = TextExtent(line).x <= rect.width;
+  const wxString shown =
+      fits ? line : wxControl::Ellipsize(line, dc, wxELLIPSIZE_END, rect.width, wxELLIPSIZE_FLAGS_NONE);
+  const wxPoint at(rect.x + (rect.width - TextExtent(shown).x) / 2, rect.y);
   wxRect underline;
-  if (underlined >= 0 && (shown == line || underlined + 1 < static_cast<int>(shown.length()))) {
-    const auto place = static_cast<std::size_t>(underlined);
-    const int before = TextExtent(shown.Left(place)).x;
-    const int key = TextExtent(shown.Left(place + 1)).x - before;
+  if (underlined >= 0 && (fits || underlined + 1 < static_cast<int>(shown.length()))) {
+    const auto [left, width] = PlaceOfCharacter(shown, static_cast<std::size_t>(underlined), state_.mirrored,
+                                                [this](const wxString& text) { return TextExtent(text).x; });
     const int descent = dc.GetFontMetrics().descent;
-    const int start = state_.mirrored ? width - before - key : before;
-    underline = {at.x + start, at.y + rect.height - descent + Pixels(kLine), key, Pixels(kLine)};
+    underline = {at.x + left, at.y + rect.height - descent + Pixels(kLine), width, Pixels(kLine)};
   }
   // Marks of direction keep the dots at a text's end on its left.
   const wxUniChar mark(0x200F);

@@ -2,6 +2,7 @@
 
 #include "controls/buttons/ButtonLook.h"
 #include "controls/buttons/ButtonRects.h"
+#include "controls/buttons/CharacterPlace.h"
 
 namespace mindloft::test {
 
@@ -66,6 +67,28 @@ TEST(ButtonRectsTest, TheCaptionGetsTheRoomThatIsLeft) {
   alone.picture = {0, 0};
   EXPECT_EQ(alone.Size(), wxSize(50, 10)) << "no gap without a picture";
   EXPECT_EQ(CalcRECTs(narrow, alone, false).caption, wxRect(5, 15, 50, 10));
+}
+
+TEST(ButtonRectsTest, AccessKeysAreUnderlinedWhereTheyStand) {
+  // Every character is ten wide.
+  const auto width = [](const wxString& text) { return static_cast<int>(text.length()) * 10; };
+  const wxString arabic = wxString::FromUTF8("\u062D\u0641\u0638");
+  const struct {
+    wxString line;
+    std::size_t index;
+    int leftToRight, rightToLeft;
+  } cases[] = {
+      {"Save it", 5, 50, 50},        // one part, whatever is around it
+      {arabic, 0, 20, 20},           // the first letter at the right
+      {arabic + " (S)", 5, 50, 10},  // the Latin key in brackets behind the text
+      {"ab " + arabic, 1, 10, 50},   // the Latin part at the line's beginning
+      {"ab " + arabic, 3, 50, 20},
+  };
+  for (const auto& each : cases) {
+    EXPECT_EQ(PlaceOfCharacter(each.line, each.index, false, width).left, each.leftToRight) << each.line;
+    EXPECT_EQ(PlaceOfCharacter(each.line, each.index, true, width).left, each.rightToLeft) << each.line;
+    EXPECT_EQ(PlaceOfCharacter(each.line, each.index, true, width).width, 10) << each.line;
+  }
 }
 
 }  // namespace mindloft::test
