@@ -11,7 +11,8 @@ EditBox::EditBox(wxWindow* parent, const wxString& name, long style, const wxWin
     : control_(control), events_(events), className_(className) {
   Create(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, style | wxBORDER_NONE,
          wxDefaultValidator, name);
-  // The desktop's own limit is never set: it counts halves of characters, and may refuse a text as a whole.
+  // No limit is left to the desktop: its own counts halves of characters, and may refuse a text as a whole.
+  platform::LiftTextLimit(*this);
   rules_.manyLines = IsMultiLine();
   BindKeys();
   BindMouse();

@@ -53,11 +53,39 @@ UserText::UserText(wxWindow* parent, const wxString& name) {
 void UserText::Create(wxWindow* parent, wxWindowID id, const wxPoint& position, const wxSize& size,
                       long style, const wxString& name) {
   wxPanel::Create(parent, id, position, size, style | wxTAB_TRAVERSAL | wxFULL_REPAINT_ON_RESIZE, name);
-  txtUser = new EditBox(this, "txtUser", 0, *this, *this, kName);
-  BindBox();
+  MakeBox(0);
+  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    UserControl_Resize();
+  });
+  Bind(wxEVT_PAINT, [this](wxPaintEvent&) { UserControl_Paint(); });
+  Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+    event.Skip();
+    Guarded(kName, "ApplyColours", [this] { ApplyColours(); });
+  });
   ReadProperties({});
   SetInitialSize(size);
   UserControl_Resize();
+}
+
+void UserText::MakeBox(long style) {
+  EditBox* former = txtUser;
+  // A box that is made inside a disabled control would not be disabled.
+  const bool isEnabled = IsThisEnabled();
+  Enable();
+  txtUser = new EditBox(this, "txtUser", style, *this, *this, kName);
+  BindBox();
+  Enable(isEnabled);
+  if (!former) return;
+  // Not every desktop turns a box that is there to the other side.
+  txtUser->SetFont(former->GetFont());
+  platform::ApplyUnderline(*txtUser);
+  txtUser->SetHint(former->GetHint());
+  txtUser->SetEditable(former->IsEditable());
+  txtUser->TakeOver(*former);
+  former->SetName(wxString());
+  // A handler of the former may be what runs now.
+  former->CallAfter([former] { former->Destroy(); });
 }
 
 void UserText::BindBox() {
@@ -73,15 +101,6 @@ void UserText::BindBox() {
   platform::SetAccessibleName(*txtUser, [this] {
     const wxString label = LabelBefore(*this);
     return label.empty() ? GetLabel() : label;
-  });
-  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
-    event.Skip();
-    UserControl_Resize();
-  });
-  Bind(wxEVT_PAINT, [this](wxPaintEvent&) { UserControl_Paint(); });
-  Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
-    event.Skip();
-    Guarded(kName, "ApplyColours", [this] { ApplyColours(); });
   });
 }
 

@@ -80,6 +80,8 @@ class UserText : public wxCompositeWindowSettersOnly<wxPanel>,
  private:
   template <typename Procedure>
   void SetProperty(const char* property, Procedure procedure);
+  /// `style` is the box's alignment. A box that is there already is replaced, with its text and state.
+  void MakeBox(long style);
   void BindBox();
   /// Whether a double click is the control's own matter.
   bool OpenUser();

@@ -69,10 +69,10 @@ void UserText::SetAlignment(std::int16_t alignment) try {
   constexpr std::array<long, 3> Styles{wxTE_LEFT, wxTE_RIGHT, wxTE_CENTRE};
   if (alignment < 0 || alignment >= static_cast<std::int16_t>(Styles.size()))
     throw Error(ErrorNumber::Overflow, "an alignment is 0, 1 or 2");
+  if (alignment != alignment_) MakeBox(Styles[static_cast<std::size_t>(alignment)]);
   alignment_ = alignment;
-  const long others = txtUser->GetWindowStyleFlag() & ~(wxTE_RIGHT | wxTE_CENTRE);
-  txtUser->SetWindowStyleFlag(others | Styles[static_cast<std::size_t>(alignment)]);
-  txtUser->Refresh();
+  ApplyColours();
+  UserControl_Resize();
   PropertyChanged();
 } catch (...) {
   mindloft::Raise(kName, "Alignment");

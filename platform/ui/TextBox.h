@@ -13,6 +13,9 @@ namespace mindloft::platform {
 /// the desktop neither copies nor drags the text.
 void SetPasswordCharacter(wxTextCtrl& box, char32_t character);
 
+/// Lets the box hold as much as the desktop's box can; some begin with less.
+void LiftTextLimit(wxTextCtrl& box);
+
 /// Makes a box without a border the inside of a frame that is drawn around it: it draws neither a frame nor a
 /// focus of its own, and its text stands where the desktop's own box shows it. The frame takes `around`
 /// pixels at its left and right already.

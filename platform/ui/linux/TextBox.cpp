@@ -32,6 +32,8 @@ void SetPasswordCharacter(wxTextCtrl& box, char32_t character) {
     gtk_entry_unset_invisible_char(entry);
 }
 
+void LiftTextLimit(wxTextCtrl&) {}
+
 void PutInsideFrame(wxTextCtrl& box, int around) {
   if (!GTK_IS_ENTRY(box.m_widget)) return;
   const auto style = EntryStyle(box.m_widget, {});

@@ -33,6 +33,10 @@ void SetPasswordCharacter(wxTextCtrl& box, char32_t character) {
   box.Refresh();
 }
 
+void LiftTextLimit(wxTextCtrl& box) {
+  SendMessageW(box.GetHandle(), EM_SETLIMITTEXT, 0, 0);
+}
+
 void PutInsideFrame(wxTextCtrl&, int) {}
 void ApplyUnderline(wxTextCtrl&) {}
 // The system draws what is only read on the form's ground by itself.

@@ -7,6 +7,7 @@
 #include <wx/settings.h>
 #include <wx/window.h>
 
+#include <algorithm>
 #include <memory>
 #include <type_traits>
 
@@ -45,10 +46,14 @@ RECT DrawFrame(HWND window, HDC dc, RECT rect, TextFrameState state) {
   if (IsThemeBackgroundPartiallyTransparent(theme.get(), part, partState))
     DrawThemeParentBackground(window, dc, &rect);
   DrawThemeBackground(theme.get(), dc, part, partState, &rect, nullptr);
+  // The theme's contents may reach below its border.
   RECT content = rect;
-  if (FAILED(GetThemeBackgroundContentRect(theme.get(), dc, part, partState, &rect, &content)))
-    InflateRect(&content, -1, -1);
-  return content;
+  GetThemeBackgroundContentRect(theme.get(), dc, part, partState, &rect, &content);
+  const int line = std::max(1, GetDeviceCaps(dc, LOGPIXELSX) / USER_DEFAULT_SCREEN_DPI);
+  RECT inside = rect;
+  InflateRect(&inside, -line, -line);
+  IntersectRect(&inside, &inside, &content);
+  return inside;
 }
 
 }  // namespace

@@ -129,8 +129,17 @@ TEST_F(UserTextTest, IsReadAndSelectedByKeys) {
   Box("txtUser").SetInsertionPointEnd();
   Type("!", "txtUser");
   EXPECT_EQ(text.Text(), "some name!");
-  for (const std::int16_t alignment : {1, 2, 0}) text.SetAlignment(alignment);
-  EXPECT_EQ(text.Text(), "some name!");
+  for (const std::int16_t alignment : {1, 2, 0}) {
+    text.SetAlignment(alignment);
+    Settle();
+    EXPECT_EQ(text.Text(), "some name!");
+    EXPECT_FALSE(text.Locked());
+  }
+  text.SetEnabled(false);
+  text.SetAlignment(1);
+  EXPECT_FALSE(text.Enabled());
+  EXPECT_FALSE(Box("txtUser").IsEnabled());
+  EXPECT_TRUE(Box("txtUser").IsThisEnabled());
 }
 
 }  // namespace
