@@ -86,6 +86,8 @@ TEST_F(MyButtonMouseTest, ADoubleClickIsTwoPresses) {
 
 TEST_F(MyButtonMouseTest, LockedItIgnoresTheMouse) {
   button_->SetLocked(true);
+  after_->SetFocus();
+  WaitFor([this] { return after_->HasFocus(); }, "the focus elsewhere");
   PointAtButton();
   simulator_.MouseDblClick();
   simulator_.MouseClick(wxMOUSE_BTN_RIGHT);
