@@ -91,7 +91,7 @@ TEST_F(MyButtonMouseTest, LockedItIgnoresTheMouse) {
   PointAtButton();
   simulator_.MouseDblClick();
   simulator_.MouseClick(wxMOUSE_BTN_RIGHT);
-  PointAt(*before_, {3, 3});
+  PointAt(*before_, wxPoint() + before_->GetSize() / 2);
   simulator_.MouseClick();
   WaitFor([this] { return before_->HasFocus(); }, "the clicks before");
   EXPECT_THAT(log_, IsEmpty());
