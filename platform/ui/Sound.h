@@ -6,9 +6,9 @@
 
 namespace mindloft::platform {
 
-/// Starts to play a wave file and returns at once; what was playing ends. False when nothing is played: the
-/// file is missing, is no wave file, or (where the system tells) there is no sound device. Silent then, never
-/// the system's own sound instead.
+/// Starts to play a wave file and returns at once; what was playing ends. True when the system takes the
+/// order; Windows may find out only later that the file is missing, is no wave file, or that there is no
+/// sound device. All of these are silent, never the system's own sound instead.
 ///
 /// The name is in UTF-8. See FindSound for a relative one.
 bool PlaySoundFile(const std::string& name);
