@@ -32,7 +32,8 @@ void FramedTextBox::BindLook() {
 void FramedTextBox::UserControl_Resize() try {
   if (platform::HasVisualStyles()) style_ = std::make_unique<platform::VisualStyle>(*this, kThemeClass);
   isThreeD_ = has3D_ || (style_ && style_->IsOpen());
-  // In the flat look the control itself is seen around its layers, as a thin line.
+  // In the flat look the control itself is seen around its layers, as a thin line. The boxes keep their
+  // colour. NOLINTNEXTLINE(bugprone-parent-virtual-call)
   wxPanel::SetBackgroundColour(isThreeD_ ? wxNullColour
                                          : wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW));
   PlaceLayers();

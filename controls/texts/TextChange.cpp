@@ -61,8 +61,8 @@ wxString TextChange::Reverted(const wxString& after) const {
 }
 
 TextChange DifferenceOf(const wxString& before, const wxString& after) {
-  const std::wstring from = before.ToStdWstring();
-  const std::wstring to = after.ToStdWstring();
+  const std::wstring& from = before.ToStdWstring();
+  const std::wstring& to = after.ToStdWstring();
   const std::size_t shorter = std::min(from.size(), to.size());
   auto start = static_cast<std::size_t>(
       std::mismatch(from.begin(), from.begin() + static_cast<std::ptrdiff_t>(shorter), to.begin()).first -
@@ -98,7 +98,7 @@ char32_t FirstCharacterOf(const wxString& text) {
 }
 
 std::size_t CountCharacters(const wxString& text) {
-  const std::wstring units = text.ToStdWstring();
+  const std::wstring& units = text.ToStdWstring();
   if constexpr (sizeof(wchar_t) > 2) return units.size();
   return units.size() - static_cast<std::size_t>(std::count_if(units.begin(), units.end(), IsTrailingUnit));
 }

@@ -82,8 +82,7 @@ void UserText::ApplyColours() {
   // The form's own ground, which the desktop may draw in more than one colour.
   const bool isForms = backColor_ == kButtonFaceColour && Locked();
   const wxColour back = isForms ? wxColour() : backColor_.Resolve();
-  wxPanel::SetBackgroundColour(back);
-  txtUser->SetBackgroundColour(back);
+  SetBackgroundColour(back);
   txtUser->SetForegroundColour(IsEnabled() ? TextColourOn(backColor_, foreColor_) : wxColour());
   txtUser->Refresh();
   Refresh();
