@@ -22,27 +22,27 @@ void SendMouse(wxWindow& window, wxEventType type, bool leftDown) {
 
 void NumbersFixture::SetUp() {
   PrivateServices::SetUp();
-  frame_ = new wxFrame(nullptr, wxID_ANY, "numbers", wxDefaultPosition, wxSize(500, 200));
-  label_ = new wxStaticText(frame_, wxID_ANY, "&Port:");
-  user_ = std::make_unique<User>(*frame_);
+  form_ = new wxDialog(nullptr, wxID_ANY, "numbers", wxDefaultPosition, wxSize(500, 200));
+  label_ = new wxStaticText(form_, wxID_ANY, "&Port:");
+  user_ = std::make_unique<User>(*form_);
 }
 
 void NumbersFixture::TearDown() {
   user_.reset();
-  frame_->Destroy();
+  form_->Destroy();
   Settle();
   PrivateServices::TearDown();
 }
 
 void NumbersFixture::Show(SpunBox& control) {
   control_ = &control;
-  other_ = new wxTextCtrl(frame_, wxID_ANY, "other", wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
+  other_ = new wxTextCtrl(form_, wxID_ANY, "other", wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
                           "txtOther");
   auto* sizer = new wxBoxSizer(wxHORIZONTAL);
   sizer->Add(label_);
   sizer->Add(&control, 0, wxALL, 5);
   sizer->Add(other_);
-  frame_->SetSizer(sizer);
+  form_->SetSizer(sizer);
   for (wxWindow* child : control.GetChildren()) {
     if (auto* box = dynamic_cast<wxTextCtrl*>(child)) box_ = box;
     if (auto* arrows = dynamic_cast<SpinArrows*>(child)) arrows_ = arrows;
@@ -62,9 +62,9 @@ void NumbersFixture::Show(SpunBox& control) {
     focused_ = false;
     event.Skip();
   });
-  frame_->Show();
-  frame_->Raise();
-  WaitFor([this] { return frame_->IsActive() && box_->GetSize().x > 10; }, "the frame in front");
+  form_->Show();
+  form_->Raise();
+  WaitFor([this] { return form_->IsActive() && box_->GetSize().x > 10; }, "the form in front");
   Enter();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <wx/frame.h>
+#include <wx/dialog.h>
 #include <wx/textctrl.h>
 
 #include <memory>
@@ -13,14 +13,14 @@
 
 namespace mindloft::test {
 
-/// A frame with a numeric control, labelled, and a box beside it that can take the focus; a user in front of
+/// A dialog with a numeric control, labelled, and a box beside it that can take the focus; a user in front of
 /// them.
 class NumbersFixture : public PrivateServices {
  protected:
   void SetUp() override;
   void TearDown() override;
 
-  /// Shows the control, which has the frame as parent, and gives it the focus.
+  /// Shows the control, which has the form as parent, and gives it the focus.
   void Show(SpunBox& control);
   wxTextCtrl& Box() const { return *box_; }
   wxString Text() const { return box_->GetValue(); }
@@ -40,7 +40,7 @@ class NumbersFixture : public PrivateServices {
   /// The events since the last call: "Change 12", "KeyPress 49".
   std::vector<std::string> Events();
 
-  wxFrame* frame_ = nullptr;
+  wxDialog* form_ = nullptr;
   wxTextCtrl* other_ = nullptr;
   wxWindow* label_ = nullptr;
   SpunBox* control_ = nullptr;

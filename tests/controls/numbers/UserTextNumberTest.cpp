@@ -1,4 +1,6 @@
 #include <gmock/gmock.h>
+#include <wx/frame.h>
+#include <wx/uiaction.h>
 
 #include <limits>
 
@@ -21,7 +23,7 @@ class UserTextNumberTest : public NumbersFixture {
  protected:
   void SetUp() override {
     NumbersFixture::SetUp();
-    number_ = new UserTextNumber(frame_, "txtNumber");
+    number_ = new UserTextNumber(form_, "txtNumber");
     number_->SetMaxValue(10);
     Show(*number_);
   }
@@ -253,7 +255,7 @@ TEST_F(UserTextNumberTest, ADisabledOneRefusesEverything) {
   EXPECT_FALSE(number_->Enabled());
 }
 
-TEST_F(UserTextNumberTest, AFailingHandlerReachesNobody) {
+TEST_F(UserTextNumberTest, WorksWithoutHandlers) {
   control_->Change = nullptr;
   control_->KeyDown = nullptr;
   control_->KeyPress = nullptr;
@@ -262,6 +264,42 @@ TEST_F(UserTextNumberTest, AFailingHandlerReachesNobody) {
   Press(WXK_UP);
   EXPECT_EQ(number_->Text(), "2");
   EXPECT_THAT(Events(), IsEmpty());
+}
+
+TEST_F(UserTextNumberTest, TheRealMouseStepsAndLeavesTheFocusInTheBox) {
+  number_->SetText("5");
+  auto& arrows = user_->Find("UpDown1");
+  // The upper one is, where they stand side by side, the one at the far edge.
+  const wxRect place = arrows.GetScreenRect();
+  wxUIActionSimulator mouse;
+  mouse.MouseMove(place.GetRight() - place.width / 5, place.y + place.height / 4);
+  Settle();
+  mouse.MouseDown();
+  WaitFor([this] { return number_->Text() == "6"; }, "the step up");
+  mouse.MouseUp();
+  Settle();
+  EXPECT_TRUE(Box().HasFocus());
+}
+
+TEST_F(UserTextNumberTest, TabGoesFromBoxToBox) {
+  wxUIActionSimulator keyboard;
+  keyboard.Char(WXK_TAB);
+  WaitFor([this] { return other_->HasFocus(); }, "the focus behind the control");
+  keyboard.Char(WXK_TAB, wxMOD_SHIFT);
+  WaitFor([this] { return Box().HasFocus(); }, "the focus in the control again");
+}
+
+TEST_F(UserTextNumberTest, RightToLeftPutsTheSpinnerOnTheLeft) {
+  wxFrame frame(nullptr, wxID_ANY, "right to left", wxDefaultPosition, wxSize(400, 200));
+  frame.SetLayoutDirection(wxLayout_RightToLeft);
+  auto* panel = new wxPanel(&frame);
+  auto* number = new UserTextNumber(panel, "txtMirrored");
+  number->SetSize(10, 10, 200, 40);
+  frame.Show();
+  User user(frame);
+  WaitFor([&] { return user.Find("Text1").IsShownOnScreen() && panel->GetSize().x > 200; }, "the layout");
+  Settle();
+  EXPECT_LT(user.Find("UpDown1").GetScreenRect().x, user.Find("Text1").GetScreenRect().x);
 }
 
 }  // namespace mindloft::test

@@ -15,7 +15,7 @@ class ucMaskedNumberTest : public NumbersFixture {
  protected:
   void SetUp() override {
     NumbersFixture::SetUp();
-    number_ = new ucMaskedNumber(frame_, "txtNumber");
+    number_ = new ucMaskedNumber(form_, "txtNumber");
     Show(*number_);
   }
   ucMaskedNumber* number_ = nullptr;
