@@ -7,6 +7,7 @@
 #include "controls/ControlKeys.h"
 #include "controls/LabelBefore.h"
 #include "core/ErrorHandling.h"
+#include "platform/ui/CommonControls.h"
 #include "platform/ui/SpinButton.h"
 #include "platform/ui/TextBox.h"
 
@@ -28,6 +29,7 @@ void Quietly(const char* procedure, Action&& action) noexcept {
 bool SpunBox::CreateParts(wxWindow* parent, wxWindowID id, const wxPoint& position, const wxSize& size,
                           long style, const wxString& name, const wxString& boxName,
                           const wxString& arrowsName) {
+  platform::UseSystemControls();
   if (!wxPanel::Create(parent, id, position, size, style | wxTAB_TRAVERSAL | wxBORDER_NONE, name))
     return false;
   CreateBox(boxName);

@@ -4,6 +4,7 @@
 #include "controls/LabelBefore.h"
 #include "controls/texts/FrameLayer.h"
 #include "core/ErrorHandling.h"
+#include "platform/ui/CommonControls.h"
 #include "platform/ui/TextBox.h"
 #include "platform/ui/VisualStyle.h"
 
@@ -13,6 +14,7 @@ FramedTextBox::~FramedTextBox() = default;
 
 void FramedTextBox::CreateLayers(wxWindow* parent, wxWindowID id, const wxPoint& position, const wxSize& size,
                                  long style, const wxString& name, long boxStyle) {
+  platform::UseSystemControls();
   boxStyle_ = boxStyle;
   Create(parent, id, position, size, style | wxTAB_TRAVERSAL, name);
   const auto look = [this] { return Look(); };

@@ -8,6 +8,7 @@
 #include "controls/texts/BoxFont.h"
 #include "controls/texts/UserEditor.h"
 #include "core/ErrorHandling.h"
+#include "platform/ui/CommonControls.h"
 #include "platform/ui/TextBox.h"
 
 namespace mindloft {
@@ -52,6 +53,7 @@ UserText::UserText(wxWindow* parent, const wxString& name) {
 
 void UserText::Create(wxWindow* parent, wxWindowID id, const wxPoint& position, const wxSize& size,
                       long style, const wxString& name) {
+  platform::UseSystemControls();
   wxPanel::Create(parent, id, position, size, style | wxTAB_TRAVERSAL | wxFULL_REPAINT_ON_RESIZE, name);
   MakeBox(0);
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {

@@ -200,6 +200,7 @@ TEST(Keyboard, TellsTheShiftKeyAsItIsHeld) {
 
 TEST(CommonControls, AreRegistered) {
   EXPECT_TRUE(InitExtendedComboBoxes());
+  EXPECT_TRUE(UseSystemControls());
 }
 
 TEST(MessageParameters, AreSplit) {

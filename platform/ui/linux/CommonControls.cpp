@@ -6,4 +6,8 @@ bool InitExtendedComboBoxes() {
   return true;
 }
 
+bool UseSystemControls() {
+  return true;
+}
+
 }  // namespace mindloft::platform

@@ -11,4 +11,14 @@ bool InitExtendedComboBoxes() {
   return InitCommonControlsEx(&request) != FALSE;
 }
 
+bool UseSystemControls() {
+  static const bool areThere = [] {
+    // The system's own folder only: a library of that name beside the program is somebody else's.
+    const bool loaded = LoadLibraryExW(L"shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32) != nullptr;
+    InitCommonControls();
+    return loaded;
+  }();
+  return areThere;
+}
+
 }  // namespace mindloft::platform
