@@ -250,14 +250,23 @@ TEST_F(LoginFormTest, CapsLockIsToldWhileItIsOn) {
       wxKeyEvent key(wxEVT_KEY_UP);
       user.Find("txtPassword").HandleWindowEvent(key);
     };
+    const auto step = [&](const char* from, const char* to) {
+      return user.Find(to).GetPosition().y - user.Find(from).GetPosition().y;
+    };
+    const auto leavesNoGap = [&] {
+      return step("txtPassword", "txtServer") == step("txtName", "txtPassword");
+    };
+    EXPECT_TRUE(leavesNoGap());
     {
       const platform::FakeCapsLock on(true);
       press();
       EXPECT_TRUE(user.IsShown("lblCapsLock"));
+      EXPECT_FALSE(leavesNoGap());
     }
     const platform::FakeCapsLock off(false);
     press();
     EXPECT_FALSE(user.IsShown("lblCapsLock"));
+    EXPECT_TRUE(leavesNoGap());
     user.Press(WXK_ESCAPE);
   }}));
 }

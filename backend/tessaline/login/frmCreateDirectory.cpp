@@ -9,6 +9,7 @@
 #include "backend/corvane/LocalDirectory.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
+#include "backend/tessaline/login/LoginHint.h"
 #include "backend/tessaline/login/LoginProblem.h"
 #include "backend/tessaline/login/SecretText.h"
 #include "backend/tessaline/login/WrappedLabel.h"
@@ -109,9 +110,7 @@ wxString frmCreateDirectory::Missing() const {
 }
 
 void frmCreateDirectory::ShowHint(const wxString& text, const wxString& details) {
-  SetWrappedLabel(*lblHint, text, FromDIP(kTextWidth));
-  lblHint->UnsetToolTip();
-  if (!details.empty()) lblHint->SetToolTip(details);
+  SetHint(*lblHint, text, details, FromDIP(kTextWidth));
   GetSizer()->SetSizeHints(this);
 }
 

@@ -11,10 +11,10 @@
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
+#include "backend/tessaline/login/LoginHint.h"
 #include "backend/tessaline/login/LoginProblem.h"
 #include "backend/tessaline/login/LoginTarget.h"
 #include "backend/tessaline/login/SecretText.h"
-#include "backend/tessaline/login/WrappedLabel.h"
 #include "backend/tessaline/login/frmCreateDirectory.h"
 #include "core/ErrorHandling.h"
 #include "core/Refresh.h"
@@ -49,6 +49,7 @@ frmLogin::frmLogin(wxWindow* owner, LoginFields& fields, LoginDelay& delay)
   txtName->ChangeValue(fields_.userName);
   txtServer->ChangeValue(fields_.server);
   LoadLanguages();
+  ShowCapsLockRow(false);
   LoadInfoOnForm();
   BindHandlers();
   txtName->SelectAll();
@@ -219,18 +220,26 @@ void frmLogin::SetButtonStatus() {
 
 void frmLogin::ShowMessage(const wxString& text, const wxString& details) {
   constexpr int kWidth = 340;  // device-independent pixels: about the width of the fields with their labels
-  SetWrappedLabel(*lblMessage, text, FromDIP(kWidth));
+  SetHint(*lblMessage, text, details, FromDIP(kWidth));
   lblMessage->Show(!text.empty());
-  lblMessage->UnsetToolTip();
-  if (!details.empty()) lblMessage->SetToolTip(details);
   FitToTexts();
 }
 
 void frmLogin::ShowCapsLock() {
   const bool on = platform::IsCapsLockOn();
   if (lblCapsLock->IsShown() == on) return;
-  lblCapsLock->Show(on);
+  ShowCapsLockRow(on);
   FitToTexts();
+}
+
+void frmLogin::ShowCapsLockRow(bool shown) {
+  lblCapsLock->Show(shown);
+  // The empty cell before it would keep the row's gap.
+  wxSizerItem* before = nullptr;
+  for (auto* cell : lblCapsLock->GetContainingSizer()->GetChildren()) {
+    if (cell->GetWindow() == lblCapsLock && before) before->Show(shown);
+    before = cell;
+  }
 }
 
 void frmLogin::FitToTexts() {

@@ -49,6 +49,7 @@ class frmLogin : public FormDialog {
   void SetButtonStatus();
   void ShowMessage(const wxString& text, const wxString& details = {});
   void ShowCapsLock();
+  void ShowCapsLockRow(bool shown);
   void FitToTexts();
   LoginTarget Target() const;
 
