@@ -44,6 +44,13 @@ bool SetServer(Corvane::Connection& connection) {
 
 }  // namespace
 
+bool IsAutoLoginEnabled() try {
+  return GetConvert().ToInteger(GetResource().GetSetting(Setting::AutoLoginEnabled)) == 1;
+} catch (...) {
+  ReportOnly("modPublic", "Main");
+  return false;
+}
+
 bool AutoLogin() try {
   const auto connection = GetConnection();
   auto& resource = GetResource();

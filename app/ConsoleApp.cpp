@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 
+#include "app/EarlyLogin.h"
 #include "app/LogTarget.h"
 #include "app/frmHidden.h"
 #include "app/modPublic.h"
@@ -14,7 +15,10 @@
 #include "core/ErrorHandling.h"
 #include "core/forms/Form.h"
 #include "mainwindow/ApplicationServices.h"
+#include "platform/Paths.h"
 #include "platform/Terminal.h"
+#include "platform/ui/Fonts.h"
+#include "platform/ui/Renderer.h"
 #include "platform/ui/WindowHelpers.h"
 
 namespace mindloft {
@@ -54,6 +58,11 @@ bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
                         : resource.GetFormatString(kVersionText, {MINDLOFT_VERSION}));
     std::exit(EXIT_SUCCESS);
   }
+  if (!options_.directoryIsMissing) {
+    if (options_.directoryFile.empty()) options_.directoryFile = platform::DefaultDirectoryFile();
+    early_ = std::make_unique<EarlyLogin>(options_.directoryFile);
+    platform::BeginLoadingFonts();
+  }
   return wxApp::Initialize(argc, argv);
 } catch (...) {
   ReportOnly("ConsoleApp", "Initialize");
@@ -62,10 +71,11 @@ bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
 
 bool ConsoleApp::OnInit() try {
   delete wxLog::SetActiveTarget(new LogTarget);
-  // A device context makes the toolkit begin to load its fonts, which it does beside the login.
-  const wxMemoryDC fontsWanted;
+  // A device context makes the toolkit read its style and fonts, which goes beside the early login.
+  const wxMemoryDC styleWanted;
   wxImage::AddHandler(new wxPNGHandler);
   SetAppDisplayName(GetResource().GetString(kApplicationTitle));
+  platform::DrawTreeButtonsAsShapes();
   SetHelpAction(ShowHelp);
   auto& services = GetApplicationServices();
   services.showHelp = ShowHelp;
@@ -82,7 +92,8 @@ int ConsoleApp::OnRun() try {
     GetMessenger().ShowMessage(kDirectoryIsMissing);
     return EXIT_FAILURE;
   }
-  hidden_ = std::make_unique<frmHidden>(StartServices::Real(options_.directoryFile));
+  hidden_ = std::make_unique<frmHidden>(
+      StartServices::Real(options_.directoryFile, [this] { return early_->Open(); }));
   hidden_->Form_Load(options_.nodeName);
   // Handed over, or not logged in: no form remains, and so does no process.
   return GetTopWindow() ? wxApp::OnRun() : EXIT_SUCCESS;

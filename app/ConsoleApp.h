@@ -8,6 +8,7 @@
 
 namespace mindloft {
 
+class EarlyLogin;
 class frmHidden;
 
 /// The process: sets up the toolkit, loads the hidden start-up form and runs until no window remains.
@@ -29,6 +30,7 @@ class ConsoleApp : public wxApp {
 
  private:
   CommandLineOptions options_;
+  std::unique_ptr<EarlyLogin> early_;
   std::unique_ptr<frmHidden> hidden_;
 };
 

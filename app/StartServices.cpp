@@ -7,15 +7,14 @@
 #include "backend/tessaline/login/LoginDialog.h"
 #include "mainwindow/CommandLineState.h"
 #include "mainwindow/frmSysAdmin.h"
-#include "platform/Paths.h"
 #include "platform/ui/Keyboard.h"
 
 namespace mindloft {
 
-StartServices StartServices::Real(std::filesystem::path directoryFile) {
-  if (directoryFile.empty()) directoryFile = platform::DefaultDirectoryFile();
+StartServices StartServices::Real(std::filesystem::path directoryFile,
+                                  std::function<std::shared_ptr<Directory>()> open) {
   StartServices services;
-  services.directories = Corvane::EmbeddedDirectoryProvider(directoryFile);
+  services.directories = Corvane::EmbeddedDirectoryProvider(std::move(open));
   services.isShiftDown = platform::IsShiftDown;
   services.login = [directoryFile](const wxString& title) {
     Tessaline::LoginDialog dialog(directoryFile);

@@ -22,8 +22,9 @@ struct StartServices {
   /// Lets the main window, if it is still open, take over the saved command line.
   std::function<void()> handOver;
 
-  /// The real ones. `directoryFile` is what "this computer" means; empty: the platform's place.
-  static StartServices Real(std::filesystem::path directoryFile);
+  /// The real ones. `directoryFile` is what "this computer" means, and `open` opens it.
+  static StartServices Real(std::filesystem::path directoryFile,
+                            std::function<std::shared_ptr<Directory>()> open);
 };
 
 }  // namespace mindloft

@@ -19,16 +19,6 @@ constexpr int kHelpCannotBeShown = 61246;
 constexpr int kApplicationTitle = 61200;
 constexpr char kRunOnceKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
 
-/// A damaged switch is reported and means off: it must not keep anybody from logging in.
-bool AutoLoginSwitch() {
-  try {
-    return GetConvert().ToInteger(GetResource().GetSetting(Tessaline::Setting::AutoLoginEnabled)) == 1;
-  } catch (...) {
-    ReportOnly("modPublic", "Main");
-    return false;
-  }
-}
-
 bool LoginInteractively(const StartServices& services) {
   GetUtility().Log("start: asking for name and password");
   return services.login(GetResource().GetString(kApplicationTitle));
@@ -37,7 +27,7 @@ bool LoginInteractively(const StartServices& services) {
 /// Shift asks for the login dialog. It is tested a second time after the registry was read, as the key may be
 /// pressed meanwhile; then "IsLogin" outweighs it.
 bool IsAutoLoginWanted(const StartServices& services) {
-  const bool enabled = AutoLoginSwitch();
+  const bool enabled = IsAutoLoginEnabled();
   if (services.isShiftDown()) return false;
   const bool forced =
       GetRegistry().GetValue(platform::RegistryRoot::LocalMachine, kRunOnceKey, "IsLogin") != 0;

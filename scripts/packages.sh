@@ -2,7 +2,7 @@
 # Installs what is missing of the Debian packages that a task needs: packages.sh build|test|run|windows|lint|fuzz ...
 set -euo pipefail
 
-build="cmake ninja-build g++ pkg-config ccache libwxgtk3.2-dev libgtk-3-dev libsqlite3-dev libutf8proc-dev libpugixml-dev
+build="cmake ninja-build g++ pkg-config ccache libwxgtk3.2-dev libgtk-3-dev libfontconfig-dev libsqlite3-dev libutf8proc-dev libpugixml-dev
   libgcrypt20-dev libspdlog-dev libfmt-dev googletest libgtest-dev libgmock-dev"
 # Fonts for the languages and the sample's names; a display, a window manager and a camera for machines without one.
 screen="xvfb openbox x11-utils xdotool imagemagick fonts-dejavu-core fonts-droid-fallback fonts-nanum fonts-noto-core"

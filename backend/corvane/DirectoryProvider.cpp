@@ -14,10 +14,12 @@ constexpr int kLocalNetwork = 1;
 }  // namespace
 
 DirectoryProvider EmbeddedDirectoryProvider(std::filesystem::path file) {
-  return [file = std::move(file)](const ConnectionTarget& target) -> std::shared_ptr<Directory> {
-    if (target.connectMode == kLocalNetwork && IsLocalServer(target.configurationServer)) {
-      return SqliteDirectory::Open(file);
-    }
+  return EmbeddedDirectoryProvider([file = std::move(file)] { return SqliteDirectory::Open(file); });
+}
+
+DirectoryProvider EmbeddedDirectoryProvider(std::function<std::shared_ptr<Directory>()> open) {
+  return [open = std::move(open)](const ConnectionTarget& target) {
+    if (target.connectMode == kLocalNetwork && IsLocalServer(target.configurationServer)) return open();
     const auto& server = target.connectMode == kLocalNetwork ? target.configurationServer : target.webAddress;
     throw Error(ErrorNumber::ServerUnreachable, "mode " + std::to_string(target.connectMode), {server});
   };

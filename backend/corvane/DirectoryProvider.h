@@ -25,5 +25,7 @@ using DirectoryProvider = std::function<std::shared_ptr<Directory>(const Connect
 /// The provider that knows the embedded directory: mode 1 with an empty server or "(local)" (any case) opens
 /// `file`; every other target is ServerUnreachable.
 DirectoryProvider EmbeddedDirectoryProvider(std::filesystem::path file);
+/// The same, with another way to open it.
+DirectoryProvider EmbeddedDirectoryProvider(std::function<std::shared_ptr<Directory>()> open);
 
 }  // namespace mindloft::Corvane

@@ -35,6 +35,9 @@ class Directory {
   /// Throws LoginFailed for a wrong name, a wrong password and an account that is disabled alike, after the
   /// same work; LoginDelayed while repeated failures are being slowed.
   virtual SessionId Login(std::string_view name, std::string_view password) = 0;
+  /// Does the costly part of a Login with the same name and password ahead, on any thread; no other call runs
+  /// beside it. Whether they are right shows at Login only.
+  virtual void PrepareLogin(std::string_view name, std::string_view password) = 0;
   virtual void Logout(SessionId session) = 0;
   /// The user who is logged in, as stored now.
   virtual UserRecord CurrentUser(SessionId session) = 0;

@@ -16,6 +16,14 @@ SessionId SqliteDirectoryImpl::Login(std::string_view name, std::string_view pas
   }
 }
 
+void SqliteDirectoryImpl::PrepareLogin(std::string_view name, std::string_view password) {
+  try {
+    sessions_.Prepare(name, password);
+  } catch (...) {
+    throw CurrentError();
+  }
+}
+
 void SqliteDirectoryImpl::Logout(SessionId session) {
   sessions_.Logout(session);
 }

@@ -29,6 +29,7 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
   SqliteDirectoryImpl(std::unique_ptr<sqlite::Database> database, LoginThrottle& throttle);
 
   SessionId Login(std::string_view name, std::string_view password) override;
+  void PrepareLogin(std::string_view name, std::string_view password) override;
   void Logout(SessionId session) override;
   UserRecord CurrentUser(SessionId session) override;
   std::uint32_t SysPrivileges(SessionId session, ObjectId user) override;

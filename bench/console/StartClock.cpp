@@ -35,16 +35,13 @@ long PeakKiB() {
 }
 
 void ReportWhenReady(wxTopLevelWindow& window) {
-  // The frame clock exists from the window's realization on; its first frame is the window's first picture.
-  auto clock = std::make_shared<std::unique_ptr<PaintClock>>();
-  wxTheApp->Bind(wxEVT_IDLE, [clock, &window](wxIdleEvent& event) {
+  // Its first frame is the window's first picture.
+  auto clock = std::make_shared<PaintClock>(window);
+  wxTheApp->Bind(wxEVT_IDLE, [clock](wxIdleEvent& event) {
     event.Skip();
-    if (!window.IsShownOnScreen()) return;
-    if (!*clock) {
-      *clock = std::make_unique<PaintClock>(window);
-      return;
-    }
-    if (!(*clock)->HasPainted()) return;
+
+    if (!clock->HasPainted()) return;
+
     const char* begin = std::getenv(kBegin);
     std::printf("ready %.2f\npeak %ld\n", NowMs() - (begin ? std::atof(begin) : 0), PeakKiB());
     std::fflush(stdout);

@@ -8,7 +8,8 @@ class wxTopLevelWindow;
 namespace mindloft::bench {
 
 /// Prints "ready N" (milliseconds since the starter began the process) and "peak N" (KiB of memory at the
-/// most) at the first idle moment after the window was painted, then ends the process.
+/// most) at the first idle moment after the window was painted, then ends the process. The window has been
+/// shown just now.
 void ReportWhenReady(wxTopLevelWindow& window);
 
 /// What a measured process printed: "name number" lines.

@@ -27,23 +27,16 @@ bool measuresWalk = false;
 /// The console as it is, watched.
 class WatchedConsole : public ConsoleApp {
  public:
-  bool OnInit() override {
-    if (!ConsoleApp::OnInit()) return false;
-    Bind(wxEVT_IDLE, &WatchedConsole::LookForWindow, this);
-    return true;
-  }
-
- private:
-  void LookForWindow(wxIdleEvent& event) {
-    event.Skip();
+  /// Begins when the window has just been shown.
+  int MainLoop() override {
     auto* window = dynamic_cast<wxTopLevelWindow*>(wxWindow::FindWindowByName("frmSysAdmin"));
-    if (!window || !window->IsShownOnScreen()) return;
-    Unbind(wxEVT_IDLE, &WatchedConsole::LookForWindow, this);
+    if (!window) throw std::runtime_error("the console did not log in");
     if (measuresWalk) {
       CallAfter([window] { WalkAndReport(*window); });
     } else {
       ReportWhenReady(*window);
     }
+    return ConsoleApp::MainLoop();
   }
 };
 

@@ -6,6 +6,8 @@
 
 #include "controls/explorer/ExplorerList.h"
 #include "core/ErrorHandling.h"
+#include "core/forms/Images.h"
+#include "platform/ui/SearchPicture.h"
 
 namespace mindloft {
 
@@ -24,6 +26,7 @@ ExplorerListPane::ExplorerListPane(wxWindow* parent) : wxPanel(parent) {
   // Where the toolkit makes the box of parts, a mirrored part loses its picture.
   for (wxWindow* part : search_->GetChildren())
     if (!dynamic_cast<wxTextEntry*>(part)) part->SetLayoutDirection(wxLayout_LeftToRight);
+  platform::SetSearchPicture(*search_, LoadImage("find"));
   list_ = new ExplorerList(this);
   input_ = std::make_unique<ExplorerListInput>(*list_);
   auto* sizer = new wxBoxSizer(wxVERTICAL);

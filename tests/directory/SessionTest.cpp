@@ -63,6 +63,26 @@ TEST_F(SessionTest, EndsWithLogoutDeletionAndDisabling) {
   EXPECT_EQ(NumberOf([&] { directory_->CurrentUser(admin_); }), ErrorNumber::NotLoggedIn);
 }
 
+TEST_F(SessionTest, APreparedLoginAnswersOnlyItsOwnQuestion) {
+  const auto journal = Journal(1).at(0).id;
+  directory_->PrepareLogin("admin", kPassword);
+  EXPECT_EQ(Journal(1).at(0).id, journal) << "nobody has logged in yet";
+  EXPECT_EQ(NumberOf([&] { directory_->Login("admin", "another password"); }), ErrorNumber::LoginFailed);
+  directory_->PrepareLogin("ADMIN", kPassword);
+  EXPECT_NE(directory_->Login("admin", kPassword), 0u);
+  directory_->PrepareLogin("admin", "wrong password");
+  EXPECT_EQ(NumberOf([&] { directory_->Login("admin", "wrong password"); }), ErrorNumber::LoginFailed);
+
+  // The password is changed between the two.
+  directory_->PrepareLogin("admin", kPassword);
+  directory_->SetPassword(admin_, {administrator_.id, administrator_.version}, "quite another password");
+  EXPECT_EQ(NumberOf([&] { directory_->Login("admin", kPassword); }), ErrorNumber::LoginFailed);
+  EXPECT_NE(directory_->Login("admin", "quite another password"), 0u);
+
+  directory_->PrepareLogin("nobody", kPassword);
+  EXPECT_EQ(NumberOf([&] { directory_->Login("nobody", kPassword); }), ErrorNumber::LoginFailed);
+}
+
 TEST_F(SessionTest, SlowsFailuresDownAlsoAfterReopening) {
   platform::FakeClock clock(5'000'000);
   auto fail = [&] { directory_->Login("admin", "wrong"); };

@@ -1,6 +1,7 @@
 #include "backend/directory/session/Sessions.h"
 
 #include <cstring>
+#include <utility>
 
 #include "backend/directory/FoldedText.h"
 #include "backend/directory/session/PasswordHash.h"
@@ -29,13 +30,24 @@ Sessions::Account Sessions::FindAccount(const std::string& nameKey) {
   return {row->Int(0), row->Text(1), row->Text(2), row->Int(3) != 0};
 }
 
+void Sessions::Prepare(std::string_view name, std::string_view password) {
+  if (!IsPlausible(name, password)) return;
+  Account account = FindAccount(FoldedText(name));
+  prepared_ = {account.password, std::string(password), PasswordFits(password, account.password)};
+}
+
+bool Sessions::Fits(std::string_view password, const std::string& stored) {
+  const auto prepared = std::exchange(prepared_, std::nullopt);
+  if (prepared && prepared->stored == stored && prepared->password == password) return prepared->fits;
+  return PasswordFits(password, stored);
+}
+
 SessionId Sessions::Login(std::string_view name, std::string_view password) {
-  // Longer texts cannot be right, and would only cost time and memory.
-  bool plausible = name.size() <= 1024 && password.size() <= Directory::kMaximumPasswordBytes;
+  bool plausible = IsPlausible(name, password);
   std::string key = plausible ? FoldedText(name) : std::string();
   throttle_.Require(key);
   Account account = plausible ? FindAccount(key) : Account();
-  bool fits = PasswordFits(plausible ? password : std::string_view(), account.password);
+  bool fits = Fits(plausible ? password : std::string_view(), account.password);
   if (!fits || !account.enabled) {
     throttle_.Failed(key);
     throw Error(ErrorNumber::LoginFailed);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 
@@ -19,6 +21,8 @@ class Sessions {
 
   /// Writes the time of the login and its journal row, in a transaction of its own.
   SessionId Login(std::string_view name, std::string_view password);
+  /// Compares the password ahead of the next Login.
+  void Prepare(std::string_view name, std::string_view password);
   void Logout(SessionId session) { users_.erase(session); }
   /// NotLoggedIn for an unknown session or a deleted user, AccountDisabled.
   Caller Require(SessionId session);
@@ -29,13 +33,25 @@ class Sessions {
     std::string name, password;
     bool enabled = false;
   };
+  /// A comparison that was made ahead.
+  struct Comparison {
+    std::string stored, password;
+    bool fits = false;
+  };
+  /// Longer texts cannot be right, and would only cost time and memory.
+  static bool IsPlausible(std::string_view name, std::string_view password) {
+    return name.size() <= 1024 && password.size() <= Directory::kMaximumPasswordBytes;
+  }
   Account FindAccount(const std::string& nameKey);
+  /// The prepared answer where it is one to this question; it answers once.
+  bool Fits(std::string_view password, const std::string& stored);
   void Record(const Account& account, std::string_view password);
 
   sqlite::Database& database_;
   Journal& journal_;
   LoginThrottle& throttle_;
   std::unordered_map<SessionId, ObjectId> users_;
+  std::optional<Comparison> prepared_;
 };
 
 }  // namespace mindloft

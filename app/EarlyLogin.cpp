@@ -1,0 +1,48 @@
+#include "app/EarlyLogin.h"
+
+#include <utility>
+
+#include "app/AutoLogin.h"
+#include "backend/directory/SqliteDirectory.h"
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/Text.h"
+#include "core/ErrorHandling.h"
+
+namespace mindloft {
+namespace {
+
+using Tessaline::Setting;
+
+/// Nothing when it fails: who opens the directory the usual way is told why.
+std::shared_ptr<Directory> Prepare(const std::filesystem::path& file, const std::string& user,
+                                   const std::string& password) {
+  try {
+    std::shared_ptr<Directory> directory = SqliteDirectory::Open(file);
+    directory->PrepareLogin(user, password);
+    return directory;
+  } catch (...) {
+    return nullptr;
+  }
+}
+
+}  // namespace
+
+EarlyLogin::EarlyLogin(std::filesystem::path directoryFile) : file_(std::move(directoryFile)) {
+  try {
+    const auto& resource = GetResource();
+    if (!IsAutoLoginEnabled()) return;
+    prepared_ =
+        std::async(std::launch::async, Prepare, file_, ToUtf8(resource.GetSetting(Setting::LoginUserName)),
+                   ToUtf8(resource.GetSetting(Setting::LoginPassword)));
+  } catch (...) {
+    // Without it the start is as right, only slower.
+    ReportOnly("EarlyLogin", "EarlyLogin");
+  }
+}
+
+std::shared_ptr<Directory> EarlyLogin::Open() {
+  auto prepared = prepared_.valid() ? prepared_.get() : nullptr;
+  return prepared ? prepared : SqliteDirectory::Open(file_);
+}
+
+}  // namespace mindloft
