@@ -5,12 +5,12 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryImages.h"
+#include "controls/rows/RecordRows.h"
 #include "core/ErrorHandling.h"
 #include "mainwindow/DirectoryTree.h"
 #include "mainwindow/FixedRows.h"
-#include "mainwindow/Images.h"
 #include "mainwindow/ObjectKindRegistry.h"
-#include "mainwindow/RecordRows.h"
 #include "mainwindow/WorkingArea.h"
 
 namespace mindloft {

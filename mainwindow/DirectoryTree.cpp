@@ -4,10 +4,10 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryImages.h"
 #include "core/ErrorHandling.h"
 #include "core/modShare.h"
 #include "mainwindow/DomainContexts.h"
-#include "mainwindow/Images.h"
 #include "mainwindow/TreeKeys.h"
 #include "mainwindow/WorkingArea.h"
 

@@ -4,8 +4,8 @@
 #include <wx/frame.h>
 #include <wx/toolbar.h>
 
+#include "controls/rows/DirectoryImages.h"
 #include "mainwindow/CommandSet.h"
-#include "mainwindow/Images.h"
 #include "platform/ui/Direction.h"
 
 namespace mindloft {

@@ -1,14 +1,14 @@
 #include "backend/corvane/Corvane.h"
 #include "backend/directory/Privileges.h"
+#include "controls/rows/DomainRows.h"
+#include "controls/rows/GroupRows.h"
+#include "controls/rows/RoleRows.h"
+#include "controls/rows/UserRows.h"
 #include "core/Refresh.h"
 #include "core/modShare.h"
-#include "mainwindow/DomainRows.h"
-#include "mainwindow/GroupRows.h"
 #include "mainwindow/ObjectKindRegistry.h"
-#include "mainwindow/RoleRows.h"
 #include "mainwindow/Texts.h"
 #include "mainwindow/TreeKeys.h"
-#include "mainwindow/UserRows.h"
 
 namespace mindloft {
 

@@ -7,9 +7,9 @@
 
 #include "backend/tessaline/Services.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryImages.h"
+#include "controls/rows/RecordRows.h"
 #include "mainwindow/FormKey.h"
-#include "mainwindow/Images.h"
-#include "mainwindow/RecordRows.h"
 #include "mainwindow/Texts.h"
 
 namespace mindloft {

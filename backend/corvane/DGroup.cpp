@@ -5,6 +5,7 @@
 #include "backend/corvane/ChangedField.h"
 #include "backend/corvane/MembershipLists.h"
 #include "backend/corvane/Users.h"
+#include "backend/errors/Error.h"
 
 namespace mindloft::Corvane {
 
@@ -50,6 +51,17 @@ void DGroup::ChangeMembers(const std::string& additions, const std::string& remo
 
 std::shared_ptr<Users> DGroup::GetUsersNotAccessible() const {
   return std::make_shared<Users>(session_, Collection::UsersWithoutGroup, stored_.id);
+}
+
+GroupRecord DGroup::Current() const {
+  auto found = session_->Door().FindGroup(session_->id, stored_.id);
+  if (!found) throw Error(ErrorNumber::ObjectNotFound, "group " + Id());
+  return std::move(*found);
+}
+
+void DGroup::Rebase(GroupRecord stored, GroupRecord edited) {
+  stored_ = std::move(stored);
+  edited_ = std::move(edited);
 }
 
 }  // namespace mindloft::Corvane

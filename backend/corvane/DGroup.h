@@ -35,6 +35,12 @@ class DGroup {
   /// Users of the domain who are not members.
   std::shared_ptr<Users> GetUsersNotAccessible() const;
   const GroupRecord& Stored() const { return stored_; }
+  /// The stored record with the puts that wait for Update.
+  const GroupRecord& Edited() const { return edited_; }
+  /// The record as it is stored now; the object stays as it is. ObjectNotFound when it is gone.
+  GroupRecord Current() const;
+  /// Takes another record as the stored one, and what is to wait for Update on it.
+  void Rebase(GroupRecord stored, GroupRecord edited);
 
  private:
   std::shared_ptr<Session> session_;

@@ -68,4 +68,15 @@ std::shared_ptr<Users> KDomain::GetUsersNotAccessible() const {
   return std::make_shared<Users>(session_, Collection::UsersWithoutDomain, stored_.id);
 }
 
+DomainRecord KDomain::Current() const {
+  auto found = session_->Door().FindDomain(session_->id, stored_.id);
+  if (!found) throw Error(ErrorNumber::ObjectNotFound, "domain " + Id());
+  return std::move(*found);
+}
+
+void KDomain::Rebase(DomainRecord stored, DomainRecord edited) {
+  stored_ = std::move(stored);
+  edited_ = std::move(edited);
+}
+
 }  // namespace mindloft::Corvane

@@ -37,6 +37,12 @@ class KDomain {
   void ChangeUsers(const std::string& additions, const std::string& removals);
   std::shared_ptr<Users> GetUsersNotAccessible() const;
   const DomainRecord& Stored() const { return stored_; }
+  /// The stored record with the puts that wait for Update.
+  const DomainRecord& Edited() const { return edited_; }
+  /// The record as it is stored now; the object stays as it is. ObjectNotFound when it is gone.
+  DomainRecord Current() const;
+  /// Takes another record as the stored one, and what is to wait for Update on it.
+  void Rebase(DomainRecord stored, DomainRecord edited);
 
  private:
   std::shared_ptr<Session> session_;

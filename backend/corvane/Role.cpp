@@ -4,6 +4,7 @@
 
 #include "backend/corvane/MembershipLists.h"
 #include "backend/corvane/Users.h"
+#include "backend/errors/Error.h"
 
 namespace mindloft::Corvane {
 
@@ -25,6 +26,12 @@ void Role::ChangeMembers(const std::string& additions, const std::string& remova
 
 std::shared_ptr<Users> Role::GetUsersNotAccessible() const {
   return std::make_shared<Users>(session_, Collection::UsersWithoutRole, stored_.id);
+}
+
+RoleRecord Role::Current() const {
+  auto found = session_->Door().FindRole(session_->id, stored_.id);
+  if (!found) throw Error(ErrorNumber::ObjectNotFound, "role " + Id());
+  return std::move(*found);
 }
 
 }  // namespace mindloft::Corvane

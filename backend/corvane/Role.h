@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "backend/corvane/View.h"
 
@@ -25,6 +26,10 @@ class Role {
   /// Users who do not hold the role.
   std::shared_ptr<Users> GetUsersNotAccessible() const;
   const RoleRecord& Stored() const { return stored_; }
+  /// The record as it is stored now; the object stays as it is. ObjectNotFound when it is gone.
+  RoleRecord Current() const;
+  /// Takes another record as the stored one.
+  void Rebase(RoleRecord stored) { stored_ = std::move(stored); }
 
  private:
   std::shared_ptr<Session> session_;

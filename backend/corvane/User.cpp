@@ -5,6 +5,7 @@
 #include "backend/corvane/ChangedField.h"
 #include "backend/corvane/IdList.h"
 #include "backend/corvane/MembershipLists.h"
+#include "backend/errors/Error.h"
 
 namespace mindloft::Corvane {
 
@@ -59,15 +60,27 @@ void User::SetPassword(const std::string& password) {
 }
 
 std::string User::RoleIds() const {
-  return IsNew() ? std::string() : IdListOf(RoleView(session_, Collection::UserRoles, stored_.id));
+  return IsNew() ? std::string() : IdListOf(Roles());
 }
 
 std::string User::GroupIds() const {
-  return IsNew() ? std::string() : IdListOf(GroupView(session_, Collection::UserGroups, stored_.id));
+  return IsNew() ? std::string() : IdListOf(Groups());
 }
 
 std::string User::DomainIds() const {
-  return IsNew() ? std::string() : IdListOf(DomainView(session_, Collection::UserDomains, stored_.id));
+  return IsNew() ? std::string() : IdListOf(Domains());
+}
+
+RoleView User::Roles() const {
+  return {session_, Collection::UserRoles, stored_.id};
+}
+
+GroupView User::Groups() const {
+  return {session_, Collection::UserGroups, stored_.id};
+}
+
+DomainView User::Domains() const {
+  return {session_, Collection::UserDomains, stored_.id};
 }
 
 void User::ChangeRoles(const std::string& additions, const std::string& removals) {
@@ -85,6 +98,17 @@ void User::ChangeDomains(const std::string& additions, const std::string& remova
 void User::ChangeLists(Membership membership, const std::string& additions, const std::string& removals) {
   stored_.version =
       ChangeMemberships(*session_, membership, {stored_.id, stored_.version}, additions, removals);
+}
+
+UserRecord User::Current() const {
+  auto found = session_->Door().FindUser(session_->id, stored_.id);
+  if (!found) throw Error(ErrorNumber::ObjectNotFound, "user " + Id());
+  return std::move(*found);
+}
+
+void User::Rebase(UserRecord stored, UserRecord edited) {
+  stored_ = std::move(stored);
+  edited_ = std::move(edited);
 }
 
 }  // namespace mindloft::Corvane

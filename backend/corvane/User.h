@@ -47,12 +47,22 @@ class User {
   std::string RoleIds() const;
   std::string GroupIds() const;
   std::string DomainIds() const;
+  /// The same as windows; without rows while the user is new.
+  RoleView Roles() const;
+  GroupView Groups() const;
+  DomainView Domains() const;
   /// Two lists of identifiers joined by ";": stored at once.
   void ChangeRoles(const std::string& additions, const std::string& removals);
   void ChangeGroups(const std::string& additions, const std::string& removals);
   void ChangeDomains(const std::string& additions, const std::string& removals);
 
   const UserRecord& Stored() const { return stored_; }
+  /// The stored record with the puts that wait for Update.
+  const UserRecord& Edited() const { return edited_; }
+  /// The record as it is stored now; the object stays as it is. ObjectNotFound when it is gone.
+  UserRecord Current() const;
+  /// Takes another record as the stored one, and what is to wait for Update on it.
+  void Rebase(UserRecord stored, UserRecord edited);
 
  private:
   void ChangeLists(Membership membership, const std::string& additions, const std::string& removals);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mainwindow/RecordRows.h"
+#include "controls/rows/RecordRows.h"
 
 namespace mindloft {
 

@@ -1,6 +1,6 @@
-#include "mainwindow/RoleRows.h"
+#include "controls/rows/RoleRows.h"
 
-#include "mainwindow/Images.h"
+#include "controls/rows/DirectoryImages.h"
 
 namespace mindloft {
 

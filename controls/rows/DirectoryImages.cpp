@@ -1,4 +1,4 @@
-#include "mainwindow/Images.h"
+#include "controls/rows/DirectoryImages.h"
 
 namespace mindloft {
 

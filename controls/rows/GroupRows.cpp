@@ -1,6 +1,6 @@
-#include "mainwindow/GroupRows.h"
+#include "controls/rows/GroupRows.h"
 
-#include "mainwindow/Images.h"
+#include "controls/rows/DirectoryImages.h"
 
 namespace mindloft {
 

@@ -1,4 +1,4 @@
-#include "mainwindow/RecordRows.h"
+#include "controls/rows/RecordRows.h"
 
 #include "backend/tessaline/Services.h"
 

@@ -1,6 +1,6 @@
-#include "mainwindow/UserRows.h"
+#include "controls/rows/UserRows.h"
 
-#include "mainwindow/Images.h"
+#include "controls/rows/DirectoryImages.h"
 
 namespace mindloft {
 
