@@ -11,7 +11,9 @@ finish() {
   rm -rf "$folder"
 }
 trap finish EXIT
-Xvfb -displayfd 3 -screen 0 "${MINDLOFT_SCREEN:-1280x960x24}" -nolisten tcp 3>"$folder/number" 2>"$folder/log" &
+# Without -noreset the server starts anew when its only client goes: the first xprop below would take the window
+# manager, which is just coming, with it.
+Xvfb -displayfd 3 -screen 0 "${MINDLOFT_SCREEN:-1280x960x24}" -nolisten tcp -noreset 3>"$folder/number" 2>"$folder/log" &
 server=$!
 for _ in $(seq 200); do
   [ -s "$folder/number" ] && break
