@@ -1,5 +1,6 @@
 #include <wx/app.h>
 
+#include "app/EarlyLogin.h"
 #include "app/frmHidden.h"
 #include "controls/explorer/ctExplorer.h"
 #include "core/modShare.h"
@@ -22,7 +23,8 @@ class HandOverTest : public StartFixture {
     MakeDirectory();
     SetAutoLogin("1");
     GetApplicationServices().activeMindloft = platform::ActiveMindloft;
-    hidden_ = std::make_unique<frmHidden>(StartServices::Real(file_));
+    early_ = std::make_unique<EarlyLogin>(file_);
+    hidden_ = std::make_unique<frmHidden>(StartServices::Real(file_, [this] { return early_->Open(); }));
   }
   void TearDown() override {
     Shutdown();
@@ -51,6 +53,7 @@ class HandOverTest : public StartFixture {
   }
 
   const platform::FakeShiftKey shift_{false};
+  std::unique_ptr<EarlyLogin> early_;
   std::unique_ptr<frmHidden> hidden_;
   frmSysAdmin* window_ = nullptr;
 };
