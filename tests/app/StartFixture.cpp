@@ -1,7 +1,7 @@
 #include "tests/app/StartFixture.h"
 
 #include "backend/corvane/LocalDirectory.h"
-#include "tests/app/TracingRegistry.h"
+#include "tests/support/WatchedRegistry.h"
 
 namespace mindloft::test {
 
@@ -9,7 +9,9 @@ using Tessaline::Setting;
 
 void StartFixture::SetUp() {
   PrivateServices::SetUp();
-  registry_ = std::make_shared<TracingRegistry>(registry_, "IsLogin", trace_);
+  registry_ = std::make_shared<WatchedRegistry>(registry_, "IsLogin", [this](WatchedRegistry::Access access) {
+    trace_.push_back(access == WatchedRegistry::Access::Read ? "IsLogin" : "IsLogin!");
+  });
   RestartServices();
 }
 

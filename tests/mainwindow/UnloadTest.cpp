@@ -5,6 +5,7 @@
 #include "core/Refresh.h"
 #include "platform/ui/MouseWheel.h"
 #include "tests/mainwindow/MainWindowTest.h"
+#include "tests/support/WatchedRegistry.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -25,42 +26,14 @@ class Witness : public wxFrame {
   }
 };
 
-/// A registry that tells when a value of a window's position is about to be written.
-class PositionWatch : public platform::RegistryStore {
- public:
-  PositionWatch(std::shared_ptr<RegistryStore> store, std::function<void()> written)
-      : store_(std::move(store)), written_(std::move(written)) {}
-  std::optional<platform::RegistryValue> Get(platform::RegistryRoot root, const std::string& key,
-                                             const std::string& name) const override {
-    return store_->Get(root, key, name);
-  }
-  void Set(platform::RegistryRoot root, const std::string& key, const std::string& name,
-           const platform::RegistryValue& value) override {
-    if (name == "State") written_();
-    store_->Set(root, key, name, value);
-  }
-  void Delete(platform::RegistryRoot root, const std::string& key, const std::string& name) override {
-    store_->Delete(root, key, name);
-  }
-  std::vector<std::pair<std::string, platform::RegistryValue>> Values(platform::RegistryRoot root,
-                                                                      const std::string& key) const override {
-    return store_->Values(root, key);
-  }
-  void DeleteKey(platform::RegistryRoot root, const std::string& key) override {
-    store_->DeleteKey(root, key);
-  }
-
- private:
-  std::shared_ptr<RegistryStore> store_;
-  std::function<void()> written_;
-};
-
 /// The window's end: wheel hook, other forms, login, position.
 class UnloadTest : public MainWindowTest {
  protected:
   void SetUp() override {
     PrivateServices::SetUp();
-    registry_ = std::make_shared<PositionWatch>(registry_, [this] { Note("position"); });
+    registry_ = std::make_shared<WatchedRegistry>(registry_, "State", [this](WatchedRegistry::Access access) {
+      if (access == WatchedRegistry::Access::Change) Note("position");
+    });
     RestartServices();
     MakeDirectory();
   }

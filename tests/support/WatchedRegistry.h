@@ -1,31 +1,32 @@
 #pragma once
 
+#include <functional>
 #include <string>
-#include <vector>
 
 #include "platform/RegistryStore.h"
 
 namespace mindloft::test {
 
-/// A registry that writes down when one of its values is read, written or deleted.
-class TracingRegistry : public platform::RegistryStore {
+/// A registry that tells when one of its values is about to be read or changed.
+class WatchedRegistry : public platform::RegistryStore {
  public:
-  /// Reading adds the watched name to the trace, a change adds it with a "!".
-  TracingRegistry(std::shared_ptr<RegistryStore> store, std::string watched, std::vector<std::string>& trace)
-      : store_(std::move(store)), watched_(std::move(watched)), trace_(trace) {}
+  enum class Access { Read, Change };
+
+  WatchedRegistry(std::shared_ptr<RegistryStore> store, std::string watched, std::function<void(Access)> tell)
+      : store_(std::move(store)), watched_(std::move(watched)), tell_(std::move(tell)) {}
 
   std::optional<platform::RegistryValue> Get(platform::RegistryRoot root, const std::string& key,
                                              const std::string& name) const override {
-    if (name == watched_) trace_.push_back(name);
+    if (name == watched_) tell_(Access::Read);
     return store_->Get(root, key, name);
   }
   void Set(platform::RegistryRoot root, const std::string& key, const std::string& name,
            const platform::RegistryValue& value) override {
-    if (name == watched_) trace_.push_back(name + "!");
+    if (name == watched_) tell_(Access::Change);
     store_->Set(root, key, name, value);
   }
   void Delete(platform::RegistryRoot root, const std::string& key, const std::string& name) override {
-    if (name == watched_) trace_.push_back(name + "!");
+    if (name == watched_) tell_(Access::Change);
     store_->Delete(root, key, name);
   }
   std::vector<std::pair<std::string, platform::RegistryValue>> Values(platform::RegistryRoot root,
@@ -39,7 +40,7 @@ class TracingRegistry : public platform::RegistryStore {
  private:
   std::shared_ptr<RegistryStore> store_;
   std::string watched_;
-  std::vector<std::string>& trace_;
+  std::function<void(Access)> tell_;
 };
 
 }  // namespace mindloft::test
