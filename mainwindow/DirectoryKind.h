@@ -9,6 +9,8 @@
 
 #include "controls/explorer/ExplorerRows.h"
 
+class wxWindow;
+
 namespace mindloft {
 
 namespace Corvane {
@@ -26,6 +28,7 @@ struct KindColumn {
 struct KindScope {
   std::shared_ptr<Corvane::Server> server;
   std::shared_ptr<Corvane::DomainContext> domain;
+  wxWindow* owner = nullptr;  ///< of the windows that a command opens
 };
 
 /// One object command's way to do it. It is enabled when `action` is there and `allowed` agrees.
@@ -34,8 +37,8 @@ struct KindCommand {
   wxString name;
   /// Whether the logged-in user's privileges permit it. Empty: everybody may.
   std::function<bool(const KindScope& scope)> allowed;
-  /// Carries it out on the objects of those keys (none for a new object). Empty while no editor is registered
-  /// for the kind.
+  /// Carries it out on the objects of those keys (none for a new object); it refuses by itself what `allowed`
+  /// would not permit. Empty while no editor is registered for the kind.
   std::function<void(const KindScope& scope, const std::vector<wxString>& keys)> action;
   /// Whether it may be carried out on several objects at once.
   bool onMany = false;

@@ -1,7 +1,10 @@
 #include "mainwindow/KindCommands.h"
 
+#include <utility>
+
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/ObjectKindRegistry.h"
+#include "mainwindow/objects/ObjectMenu.h"
 
 namespace mindloft {
 
@@ -24,63 +27,34 @@ bool CanCreate(const DirectoryKind* kind, const SelectionState& selection) {
 /// Delete or properties of what is selected.
 using Member = KindCommand DirectoryKind::*;
 
-void AddForSelection(CommandSet& commands, const SelectionReader& reader, const wxString& name,
-                     const wxString& shortcut, const wxString& icon, Member member) {
-  commands.Add({.name = name,
-                .shortcut = shortcut,
-                .icon = icon,
-                .run =
-                    [&reader, member] {
-                      const auto selection = reader.Read();
-                      (selection.target->*member).action(selection.scope, reader.Keys());
-                    },
-                .enabled =
-                    [member](const SelectionState& selection) {
-                      return selection.target && PossibleOnTargets(selection.target->*member, selection);
-                    }});
-}
-
-void AddOfKind(CommandSet& commands, const SelectionReader& reader, const DirectoryKind& kind,
-               const wxString& icon, Member member) {
-  const wxString& name = (kind.*member).name;
-  if (name.empty()) return;
-  commands.Add(
-      {.name = name,
-       .shortcut = {},
-       .icon = icon,
-       .run = [&reader, &kind, member] { (kind.*member).action(reader.Read().scope, reader.Keys()); },
-       .enabled =
-           [&kind, member](const SelectionState& selection) {
-             return selection.target == &kind && PossibleOnTargets(kind.*member, selection);
-           }});
-}
-
 }  // namespace
 
-void AddKindCommands(CommandSet& commands, const ObjectKindRegistry& kinds, const SelectionReader& reader) {
-  commands.Add(
-      {.name = "mnuFileNew",
-       .shortcut = "Ctrl+N",
-       .icon = "new",
-       .run =
-           [&reader] {
-             const auto selection = reader.Read();
-             selection.listed->create.action(selection.scope, {});
-           },
-       .enabled = [](const SelectionState& selection) { return CanCreate(selection.listed, selection); }});
-  AddForSelection(commands, reader, "mnuFileDelete", {}, "delete", &DirectoryKind::remove);
-  AddForSelection(commands, reader, "mnuFileProperties", "Alt+Enter", "properties", &DirectoryKind::edit);
+void AddKindCommands(CommandSet& commands, const ObjectKindRegistry& kinds, ObjectMenu& menu) {
+  const auto add = [&](const wxString& name, const wxString& shortcut, const wxString& icon,
+                       std::function<bool(const SelectionState&)> enabled) {
+    if (!name.empty()) commands.Add({name, shortcut, icon, menu.Handler(name), std::move(enabled)});
+  };
+  const auto addForSelection = [&](const wxString& name, const wxString& shortcut, const wxString& icon,
+                                   Member member) {
+    add(name, shortcut, icon, [member](const SelectionState& selection) {
+      return selection.target && PossibleOnTargets(selection.target->*member, selection);
+    });
+  };
+  const auto addOfKind = [&](const DirectoryKind& kind, const wxString& icon, Member member) {
+    add((kind.*member).name, {}, icon, [&kind, member](const SelectionState& selection) {
+      return selection.target == &kind && PossibleOnTargets(kind.*member, selection);
+    });
+  };
 
+  add("mnuFileNew", "Ctrl+N", "new",
+      [](const SelectionState& selection) { return CanCreate(selection.listed, selection); });
+  addForSelection("mnuFileDelete", {}, "delete", &DirectoryKind::remove);
+  addForSelection("mnuFileProperties", "Alt+Enter", "properties", &DirectoryKind::edit);
   for (const auto& kind : kinds.All()) {
-    if (!kind.create.name.empty())
-      commands.Add(
-          {.name = kind.create.name,
-           .shortcut = {},
-           .icon = "new",
-           .run = [&reader, &kind] { kind.create.action(reader.Read().scope, {}); },
-           .enabled = [&kind](const SelectionState& selection) { return CanCreate(&kind, selection); }});
-    AddOfKind(commands, reader, kind, "delete", &DirectoryKind::remove);
-    AddOfKind(commands, reader, kind, "properties", &DirectoryKind::edit);
+    add(kind.create.name, {}, "new",
+        [&kind](const SelectionState& selection) { return CanCreate(&kind, selection); });
+    addOfKind(kind, "delete", &DirectoryKind::remove);
+    addOfKind(kind, "properties", &DirectoryKind::edit);
   }
 }
 

@@ -3,8 +3,7 @@
 #include <wx/frame.h>
 #include <wx/statusbr.h>
 
-#include <string>
-
+#include "backend/tessaline/GroupedNumber.h"
 #include "backend/tessaline/Services.h"
 #include "mainwindow/Texts.h"
 #include "platform/ui/StatusBar.h"
@@ -42,12 +41,12 @@ void MainStatusBar::ShowUser(const wxString& name) {
 
 void MainStatusBar::ShowCounts(std::int64_t shown, std::int64_t all, bool filtered, std::int64_t selected) {
   const auto& resource = GetResource();
-  frame_.SetStatusText(filtered
-                           ? resource.GetFormatString(texts::kCountFiltered, {Grouped(shown), Grouped(all)})
-                           : resource.GetFormatString(texts::kCount, {Grouped(shown)}),
-                       CountField);
   frame_.SetStatusText(
-      selected > 0 ? resource.GetFormatString(texts::kSelected, {Grouped(selected)}) : wxString(),
+      filtered ? resource.GetFormatString(texts::kCountFiltered, {GroupedNumber(shown), GroupedNumber(all)})
+               : resource.GetFormatString(texts::kCount, {GroupedNumber(shown)}),
+      CountField);
+  frame_.SetStatusText(
+      selected > 0 ? resource.GetFormatString(texts::kSelected, {GroupedNumber(selected)}) : wxString(),
       SelectedField);
 }
 
@@ -58,17 +57,6 @@ bool MainStatusBar::IsShown() const {
 void MainStatusBar::Show(bool show) {
   if (auto* bar = frame_.GetStatusBar()) bar->Show(show);
   frame_.SendSizeEvent();
-}
-
-wxString MainStatusBar::Grouped(std::int64_t number) {
-  const wxString separator = GetResource().GetString(texts::kThousandsSeparator);
-  const std::string digits = std::to_string(number);
-  wxString grouped;
-  for (std::size_t i = 0; i < digits.size(); ++i) {
-    if (i > 0 && digits[i - 1] != '-' && (digits.size() - i) % 3 == 0) grouped += separator;
-    grouped += digits[i];
-  }
-  return grouped;
 }
 
 }  // namespace mindloft

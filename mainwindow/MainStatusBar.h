@@ -21,9 +21,6 @@ class MainStatusBar {
   bool IsShown() const;
   void Show(bool show);
 
-  /// The number in groups of three digits, parted by the language's sign.
-  static wxString Grouped(std::int64_t number);
-
  private:
   wxFrame& frame_;
 };

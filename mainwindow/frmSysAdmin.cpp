@@ -34,6 +34,8 @@
 #include "mainwindow/Texts.h"
 #include "mainwindow/TreeKeys.h"
 #include "mainwindow/WorkingArea.h"
+#include "mainwindow/objects/ObjectCommands.h"
+#include "mainwindow/objects/ObjectMenu.h"
 #include "platform/ui/MouseWheel.h"
 #include "platform/ui/WindowHelpers.h"
 
@@ -60,7 +62,9 @@ frmSysAdmin::frmSysAdmin(std::shared_ptr<Corvane::Connection> connection, bool s
   selection_ = std::make_unique<SelectionReader>(*area_, *kinds_, *tree_, *domains_, *lists_);
   commands_ = std::make_unique<CommandSet>();
   AddMainCommands(*commands_, *this);
-  AddKindCommands(*commands_, *kinds_, *selection_);
+  objectCommands_ = std::make_unique<ObjectCommands>(*this, *kinds_, *domains_, *selection_);
+  objectMenu_ = std::make_unique<ObjectMenu>(*objectCommands_, *selection_);
+  AddKindCommands(*commands_, *kinds_, *objectMenu_);
   menus_ = std::make_unique<MenuBuilder>(*this, *commands_, *kinds_);
   toolBar_ = std::make_unique<MainToolBar>(*this, *commands_);
   statusBar_ = std::make_unique<MainStatusBar>(*this);
@@ -228,12 +232,26 @@ void frmSysAdmin::ConnectExplorer() {
   };
   explorer.lvItemDblClick = [this](std::int64_t) { OpenSelected(); };
   explorer.lvCountChange = [this] { UpdateCommands(); };
-  explorer.keyDown = [this](int key, int modifiers) {
-    // Not in the menu: there it would take the key from the search box.
-    if (key != WXK_DELETE || modifiers != wxMOD_NONE) return false;
-    RunCommand("mnuFileDelete");
-    return true;
-  };
+  explorer.keyDown = [this](int key, int modifiers) { return HandleKey(key, modifiers); };
+}
+
+// These keys are not in the menu: there they would take them from the search box.
+bool frmSysAdmin::HandleKey(int key, int modifiers) {
+  if (modifiers != wxMOD_NONE) return false;
+  switch (key) {
+    case WXK_INSERT:
+    case WXK_NUMPAD_INSERT:
+      RunCommand("mnuFileNew");
+      return true;
+    case WXK_DELETE:
+    case WXK_NUMPAD_DELETE:
+      // Also where the menu item is disabled: a key has no other way to tell why nothing happens.
+      Guarded("frmSysAdmin", "mnuFileDelete_Click", [this] { objectMenu_->mnuFileDelete_Click(); });
+      UpdateCommands();
+      return true;
+    default:
+      return false;
+  }
 }
 
 void frmSysAdmin::ConnectCommands() {
@@ -314,6 +332,16 @@ void frmSysAdmin::OpenSelected() {
   if (node < 0) return;
   Explorer().SelectTreeNode(node);
   Explorer().ExpandTreeNode(node);
+}
+
+void frmSysAdmin::NewObject(const wxString& kind, const wxString& domainKey, int flag) {
+  objectCommands_->NewObject(kind, domainKey, flag);
+}
+void frmSysAdmin::DeleteObject() {
+  objectCommands_->DeleteObject();
+}
+void frmSysAdmin::SetProperty(const wxString& kind, const wxString& key) {
+  objectCommands_->SetProperty(kind, key);
 }
 
 void frmSysAdmin::Refresh_Notify(std::int32_t& kind, std::int32_t& action, std::any& object) try {

@@ -22,7 +22,9 @@ class DomainContexts;
 class MainStatusBar;
 class MainToolBar;
 class MenuBuilder;
+class ObjectCommands;
 class ObjectKindRegistry;
+class ObjectMenu;
 class RefreshHandlers;
 class SelectionReader;
 class WorkingArea;
@@ -62,6 +64,11 @@ class frmSysAdmin : public wxFrame {
   /// Index of the selected node or row; -1: none.
   int GetTreeNodeIndex() const;
   std::int64_t GetListNodeIndex() const;
+
+  // Commands on objects; see ObjectCommands, and ObjectMenu for the menu items' handlers.
+  void NewObject(const wxString& kind, const wxString& domainKey, int flag);
+  void DeleteObject();
+  void SetProperty(const wxString& kind, const wxString& key);
 
   // Commands, menus, notifications.
   void InitMenu();
@@ -103,6 +110,7 @@ class frmSysAdmin : public wxFrame {
   void ReloadList(const ExplorerListState& state);
   void ShowPendingCounts();
   void RunCommand(const wxString& name);
+  bool HandleKey(int key, int modifiers);
   void ShowContextMenu(const DirectoryKind* listed, wxPoint screen, bool ofList);
 
   std::shared_ptr<Corvane::Connection> connection_;
@@ -112,6 +120,8 @@ class frmSysAdmin : public wxFrame {
   std::unique_ptr<DirectoryTree> tree_;
   std::unique_ptr<DirectoryLists> lists_;
   std::unique_ptr<SelectionReader> selection_;
+  std::unique_ptr<ObjectCommands> objectCommands_;
+  std::unique_ptr<ObjectMenu> objectMenu_;
   std::unique_ptr<CommandSet> commands_;
   std::unique_ptr<MenuBuilder> menus_;
   std::unique_ptr<MainToolBar> toolBar_;

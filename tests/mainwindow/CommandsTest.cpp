@@ -3,13 +3,13 @@
 #include <wx/menu.h>
 #include <wx/toolbar.h>
 
+#include "backend/tessaline/GroupedNumber.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "core/Refresh.h"
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/DirectoryTree.h"
 #include "mainwindow/LanguageMenu.h"
-#include "mainwindow/MainStatusBar.h"
 #include "mainwindow/ObjectKindRegistry.h"
 #include "tests/mainwindow/MainWindowTest.h"
 #include "tests/support/gui/WaitFor.h"
@@ -180,10 +180,10 @@ TEST_F(CommandsTest, AFormThatRefusesKeepsTheWindowAndTheLogin) {
 }
 
 TEST_F(CommandsTest, NumbersAreGrouped) {
-  EXPECT_EQ(MainStatusBar::Grouped(0), "0");
-  EXPECT_EQ(MainStatusBar::Grouped(999), "999");
-  EXPECT_EQ(MainStatusBar::Grouped(1000), "1,000");
-  EXPECT_EQ(MainStatusBar::Grouped(1000000), "1,000,000");
+  EXPECT_EQ(GroupedNumber(0), "0");
+  EXPECT_EQ(GroupedNumber(999), "999");
+  EXPECT_EQ(GroupedNumber(1000), "1,000");
+  EXPECT_EQ(GroupedNumber(1000000), "1,000,000");
 }
 
 }  // namespace mindloft::test
