@@ -76,6 +76,7 @@ void SpunBox::CopyState(const wxTextCtrl& from) {
   box_->SetEditable(from.IsEditable());
   box_->Enable(from.IsThisEnabled());
   if (from.UseBackgroundColour()) box_->SetBackgroundColour(from.GetBackgroundColour());
+  if (from.UseForegroundColour()) box_->SetForegroundColour(from.GetForegroundColour());
   long start = 0;
   long end = 0;
   from.GetSelection(&start, &end);

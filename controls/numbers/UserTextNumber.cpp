@@ -11,6 +11,7 @@
 #include "controls/bag/PropertyTable.h"
 #include "controls/numbers/FilterKey.h"
 #include "controls/numbers/NumberText.h"
+#include "controls/texts/BoxColours.h"
 #include "core/ErrorHandling.h"
 
 namespace mindloft {
@@ -62,6 +63,7 @@ void UserTextNumber::SetBackColor(ControlColour colour) {
   backColor_ = colour;
   // Without a colour of its own the box is as the desktop's theme draws boxes.
   Box().SetBackgroundColour(colour == kWindowColour ? wxNullColour : colour.Resolve());
+  Box().SetForegroundColour(TextColourOn(colour, kWindowTextColour));
   Box().Refresh();
   PropertyChanged();
 }

@@ -213,6 +213,7 @@ TEST_F(UserTextNumberTest, AppliesItsPropertiesToTheBox) {
   EXPECT_EQ(number_->SelStart(), 0);
   number_->SetBackColor(ControlColour(0x0000FF));
   EXPECT_EQ(Box().GetBackgroundColour(), wxColour(255, 0, 0));
+  EXPECT_EQ(Box().GetForegroundColour(), *wxWHITE);
   EXPECT_THROW(number_->SetBorderStyle(2), Error);
   EXPECT_THROW(number_->SetAlignment(-1), Error);
   // The box is made anew and keeps all the rest.
@@ -227,6 +228,7 @@ TEST_F(UserTextNumberTest, AppliesItsPropertiesToTheBox) {
   EXPECT_EQ(box.GetInsertionPoint(), 2);
   EXPECT_FALSE(box.IsEditable());
   EXPECT_EQ(box.GetBackgroundColour(), wxColour(255, 0, 0));
+  EXPECT_EQ(box.GetForegroundColour(), *wxWHITE);
   EXPECT_TRUE(box.HasFocus());
 }
 
