@@ -37,7 +37,7 @@ class User {
  public:
   explicit User(wxWindow& form) : form_(form) {}
 
-  // A control that is made of several windows is named by its own name: the text is typed into the box inside.
+  // A control made of several windows is named by its own name: the text is typed into the box inside.
 
   /// Types at the caret of a text or combo box, key by key, so that key filters of the control take part.
   void Type(const char* name, const wxString& text);
