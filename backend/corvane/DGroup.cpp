@@ -50,6 +50,7 @@ void DGroup::ChangeMembers(const std::string& additions, const std::string& remo
 }
 
 std::shared_ptr<Users> DGroup::GetUsersNotAccessible() const {
+  if (IsNew()) return std::make_shared<Users>(session_, Collection::DomainUsers, stored_.domain);
   return std::make_shared<Users>(session_, Collection::UsersWithoutGroup, stored_.id);
 }
 

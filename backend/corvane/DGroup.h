@@ -32,7 +32,7 @@ class DGroup {
   std::shared_ptr<Users> Members() const;
   /// Two lists of user identifiers joined by ";": stored at once.
   void ChangeMembers(const std::string& additions, const std::string& removals);
-  /// Users of the domain who are not members.
+  /// Users of the domain who are not members: all of them while the group is new.
   std::shared_ptr<Users> GetUsersNotAccessible() const;
   const GroupRecord& Stored() const { return stored_; }
   /// The stored record with the puts that wait for Update.

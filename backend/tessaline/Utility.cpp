@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <utility>
 #include <vector>
 
 #include "backend/tessaline/LogFile.h"
@@ -106,6 +107,28 @@ void Utility::Log(const std::string& line) noexcept {
 
 fs::path Utility::LogFilePath() const {
   return (logFolder_.empty() ? platform::LogFolder() : logFolder_) / "mindloft-console.log";
+}
+
+void Utility::Refresh() {
+  // A view may come or go while the others are called.
+  for (const auto& known : std::vector<std::weak_ptr<std::function<void()>>>(views_.begin(), views_.end())) {
+    const auto view = known.lock();
+    if (!view) continue;
+    try {
+      (*view)();
+    } catch (...) {
+      Error error = CurrentError();
+      ErrorNumber number{};
+      ReportError("Utility", "Refresh", number, error, error.LineIn("Refresh"));
+    }
+  }
+}
+
+std::shared_ptr<void> Utility::OnRefresh(std::function<void()> view) {
+  views_.remove_if([](const auto& known) { return known.expired(); });
+  auto added = std::make_shared<std::function<void()>>(std::move(view));
+  views_.push_back(added);
+  return added;
 }
 
 }  // namespace mindloft::Tessaline

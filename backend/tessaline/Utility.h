@@ -3,6 +3,8 @@
 #include <wx/string.h>
 
 #include <filesystem>
+#include <functional>
+#include <list>
 #include <memory>
 #include <string>
 
@@ -36,9 +38,16 @@ class Utility {
   void Log(const std::string& line) noexcept;
   std::filesystem::path LogFilePath() const;
 
+  /// Brings the views of stored data up to date after a change that no notification tells of: calls those
+  /// who asked for it. One that fails is logged and does not keep the others from being called.
+  void Refresh();
+  /// `view` is called by Refresh for as long as the result lives.
+  [[nodiscard]] std::shared_ptr<void> OnRefresh(std::function<void()> view);
+
  private:
   std::filesystem::path logFolder_;
   std::unique_ptr<LogFile> log_;
+  std::list<std::weak_ptr<std::function<void()>>> views_;
 };
 
 }  // namespace mindloft::Tessaline

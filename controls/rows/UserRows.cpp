@@ -7,12 +7,28 @@ namespace mindloft {
 UserRows::UserRows(Corvane::UserView view)
     : RecordRows(std::move(view), {Order::Name, Order::FullName, Order::Description}) {}
 
-std::vector<wxString> UserRows::Fields(const UserRecord& record) const {
+namespace {
+
+std::vector<wxString> FieldsOf(const UserRecord& record) {
   return {ToWx(record.name), ToWx(record.fullName), ToWx(record.description)};
 }
 
-int UserRows::Image(const UserRecord& record) const {
+int ImageOf(const UserRecord& record) {
   return record.enabled ? UserImage : DisabledUserImage;
+}
+
+}  // namespace
+
+ExplorerRow UserRows::RowOf(const UserRecord& record) {
+  return {JoinFields(FieldsOf(record)), ToWx(Corvane::IdText(record.id)), ImageOf(record)};
+}
+
+std::vector<wxString> UserRows::Fields(const UserRecord& record) const {
+  return FieldsOf(record);
+}
+
+int UserRows::Image(const UserRecord& record) const {
+  return ImageOf(record);
 }
 
 }  // namespace mindloft

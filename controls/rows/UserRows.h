@@ -9,6 +9,9 @@ class UserRows : public RecordRows<UserRecord> {
  public:
   explicit UserRows(Corvane::UserView view);
 
+  /// The row of a user that was read elsewhere.
+  static ExplorerRow RowOf(const UserRecord& record);
+
  protected:
   std::vector<wxString> Fields(const UserRecord& record) const override;
   int Image(const UserRecord& record) const override;

@@ -16,7 +16,8 @@ constexpr int kFields = 3;
 
 }  // namespace
 
-ListedUsers::ListedUsers(std::vector<ExplorerRow> rows) {
+ListedUsers::ListedUsers(std::vector<ExplorerRow> rows, Start start)
+    : start_(start), sorted_(start == Start::Sorted) {
   entries_.reserve(rows.size());
   for (auto& row : rows) {
     Entry entry{std::move(row), {}};
@@ -41,9 +42,10 @@ void ListedUsers::Show() {
                     [this](const auto& field) { return field.find(filter_) != std::string::npos; }))
       shown_.push_back(i);
   }
-  std::stable_sort(shown_.begin(), shown_.end(), [this](std::size_t a, std::size_t b) {
-    return descending_ ? Key(b) < Key(a) : Key(a) < Key(b);
-  });
+  if (sorted_)
+    std::stable_sort(shown_.begin(), shown_.end(), [this](std::size_t a, std::size_t b) {
+      return descending_ ? Key(b) < Key(a) : Key(a) < Key(b);
+    });
   positions_.clear();
   for (std::size_t i = 0; i < shown_.size(); ++i) positions_[entries_[shown_[i]].row.key] = i;
 }
@@ -64,6 +66,7 @@ void ListedUsers::Sort(int column, bool descending) {
   if (!CanSort(column)) return;
   column_ = static_cast<std::size_t>(column);
   descending_ = descending;
+  sorted_ = true;
   Show();
 }
 

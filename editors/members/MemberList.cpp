@@ -1,0 +1,122 @@
+#include "editors/members/MemberList.h"
+
+#include <wx/defs.h>
+#include <wx/stattext.h>
+#include <wx/utils.h>
+
+#include <utility>
+
+#include "backend/corvane/Corvane.h"
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/Text.h"
+#include "controls/explorer/ctExplorer.h"
+#include "controls/rows/UserRows.h"
+#include "core/ErrorHandling.h"
+#include "editors/members/OverlaidUsers.h"
+#include "editors/members/UserList.h"
+#include "editors/members/frmListUser.h"
+
+namespace mindloft {
+
+MemberList::MemberList(const char* objectName, ctExplorer& ctUser, wxStaticText& lblCount,
+                       std::function<void()> changed)
+    : objectName_(objectName), ctUser_(ctUser), lblCount_(lblCount), onChange_(std::move(changed)) {
+  ctUser_.lvSelChange = [this] { ShowCounts(); };
+  ctUser_.lvCountChange = [this] { ShowCounts(); };
+}
+
+MemberList::~MemberList() = default;
+
+void MemberList::SetOwner(ListOwner owner) {
+  owner_ = std::move(owner);
+}
+
+void MemberList::InitUserList() try { mindloft::InitUserList(ctUser_); } catch (...) {
+  Raise(objectName_, "InitUserList");
+}
+
+void MemberList::DisplayUsers() try {
+  const bool again = currentMembers_ != nullptr;
+  currentMembers_ = std::make_shared<OverlaidUsers>(std::make_shared<UserRows>(MembersOf(owner_)->View()),
+                                                    changedMembers_, ToBeAdded);
+  if (again)
+    ReloadUserList(ctUser_, currentMembers_);
+  else
+    ShowUserList(ctUser_, currentMembers_);
+  ShowCounts();
+} catch (...) {
+  Raise(objectName_, "DisplayUsers");
+}
+
+void MemberList::LoadInfo() {
+  if (!currentMembers_) return;
+  ReloadUserList(ctUser_, currentMembers_);
+  ShowCounts();
+}
+
+void MemberList::AddMembers() {
+  std::vector<ExplorerRow> picked;
+  frmListUser(wxGetTopLevelParent(&ctUser_)).OpenWindow(owner_, UsersNotAccessible, changedMembers_, picked);
+  if (picked.empty()) return;
+  const wxBusyCursor busy;
+  const wxString first = picked.front().key;
+  for (auto& row : picked) {
+    const UserItem* item = changedMembers_.Find(row.key);
+    if (item && item->Statu() == ToBeRemoved)
+      changedMembers_.Drop(row.key);
+    else if (!IfUserExist(row.key))
+      changedMembers_.Add({std::move(row), ToBeAdded});
+  }
+  MembersChanged();
+  const std::int64_t place = currentMembers_->PositionOf(first);
+  if (place >= 0) ctUser_.SelectListRow(place);
+}
+
+void MemberList::RemoveMembers() {
+  if (!MayTakeSelected(ctUser_)) return;
+  const wxBusyCursor busy;
+  std::vector<ExplorerRow> selected = SelectedItems();
+  if (selected.empty()) return;
+  for (auto& row : selected) {
+    const UserItem* item = changedMembers_.Find(row.key);
+    if (item && item->Statu() == ToBeAdded)
+      changedMembers_.Drop(row.key);
+    else
+      changedMembers_.Add({std::move(row), ToBeRemoved});
+  }
+  MembersChanged();
+}
+
+void MemberList::MembersChanged() {
+  changed_ = true;
+  currentMembers_->ItemsChanged();
+  ctUser_.RefreshList();
+  onChange_();
+}
+
+bool MemberList::IfUserExist(const wxString& id) const try {
+  if (const UserItem* item = changedMembers_.Find(id)) return item->Statu() == ToBeAdded;
+  return MembersOf(owner_)->Item(ToUtf8(id)) != nullptr;
+} catch (...) {
+  Raise(objectName_, "IfUserExist");
+}
+
+std::vector<ExplorerRow> MemberList::SelectedItems() const try {
+  return ctUser_.SelectedListRows();
+} catch (...) {
+  Raise(objectName_, "SelectedItems");
+}
+
+void MemberList::Save() {
+  if (!changed_) return;
+  ChangeMembers(owner_, ToUtf8(changedMembers_.Ids(ToBeAdded)), ToUtf8(changedMembers_.Ids(ToBeRemoved)));
+  changedMembers_.Clear();
+  DisplayUsers();
+  GetUtility().Refresh();
+}
+
+void MemberList::ShowCounts() {
+  ShowUserCounts(lblCount_, ctUser_);
+}
+
+}  // namespace mindloft

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "controls/explorer/ExplorerRows.h"
+#include "editors/members/ListOwner.h"
+#include "editors/members/MemberItems.h"
+
+class wxStaticText;
+
+namespace mindloft {
+
+class OverlaidUsers;
+class ctExplorer;
+
+/// The members page that group and role editor share: `ctUser` lists the members as they will be, users are
+/// added with the picker and removed, and what is pending is stored as additions and removals only.
+class MemberList {
+ public:
+  /// The controls must outlive the list; `objectName` is the sheet's, for error reports. `changed` is called
+  /// when members were added or removed.
+  MemberList(const char* objectName, ctExplorer& ctUser, wxStaticText& lblCount,
+             std::function<void()> changed);
+  ~MemberList();
+
+  /// Whose members are listed; before anything else.
+  void SetOwner(ListOwner owner);
+  void InitUserList();
+  /// Fills the list with the current members.
+  void DisplayUsers();
+  /// Takes the captions in the current language.
+  void LoadInfo();
+
+  /// Opens the picker and takes in the users picked there.
+  void AddMembers();
+  /// Takes out the selected users.
+  void RemoveMembers();
+  /// Whether a user of that identifier is in the list already.
+  bool IfUserExist(const wxString& id) const;
+  /// The users selected in `ctUser`.
+  std::vector<ExplorerRow> SelectedItems() const;
+
+  /// Whether members were added or removed since the last save.
+  bool Changed() const { return changed_; }
+  /// The changes that a save would store; adding and removing the same user leaves none.
+  const MemberItems& Pending() const { return changedMembers_; }
+  /// Stores the pending changes as one change of the owner and lists the members as they are stored then.
+  void Save();
+  void ClearChanged() { changed_ = false; }
+
+ private:
+  void MembersChanged();
+  void ShowCounts();
+
+  const char* objectName_;
+  ctExplorer& ctUser_;
+  wxStaticText& lblCount_;
+  std::function<void()> onChange_;
+  ListOwner owner_;
+  MemberItems changedMembers_;
+  std::shared_ptr<OverlaidUsers> currentMembers_;
+  bool changed_ = false;
+};
+
+}  // namespace mindloft

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "controls/explorer/ExplorerRows.h"
+
+class wxStaticText;
+
+namespace mindloft {
+
+class ctExplorer;
+
+/// The greatest number of users that one command takes over from a list. Reading and marking so many takes
+/// half a second.
+inline constexpr std::int64_t kMostUsersAtOnce = 50'000;
+
+/// Prepares an explorer that is to list users: images, break character.
+void InitUserList(ctExplorer& ctUser);
+/// Lists the rows under the columns name, full name and description.
+void ShowUserList(ctExplorer& ctUser, std::shared_ptr<ExplorerRows> rows);
+/// Takes the columns' captions in the current language; rows, order, filter and selection stay.
+void ReloadUserList(ctExplorer& ctUser, std::shared_ptr<ExplorerRows> rows);
+/// Says how many users are listed and selected.
+void ShowUserCounts(wxStaticText& label, const ctExplorer& ctUser);
+/// Whether not too many users are selected for one command; otherwise tells the user so.
+bool MayTakeSelected(ctExplorer& ctUser);
+
+}  // namespace mindloft

@@ -1,0 +1,114 @@
+#include "editors/members/frmRoleProperty.h"
+
+#include <wx/button.h>
+#include <wx/stattext.h>
+
+#include <utility>
+
+#include "backend/corvane/Corvane.h"
+#include "backend/directory/Privileges.h"
+#include "backend/tessaline/Text.h"
+#include "controls/explorer/ctExplorer.h"
+#include "controls/texts/UseMultiLineTextBox.h"
+#include "controls/texts/UseTextBox.h"
+#include "core/ErrorHandling.h"
+#include "core/modShare.h"
+
+namespace mindloft {
+namespace {
+
+enum Page : int { General, Members };
+
+}  // namespace
+
+frmRoleProperty::frmRoleProperty(wxWindow* parent) : PropertySheet(parent, "frmRoleProperty", "sstRole") {
+  txtName = Find<UseTextBox>("txtName");
+  txtPrivilege = Find<UseMultiLineTextBox>("txtPrivilege");
+  cmdAdd = Find<wxButton>("cmdAdd");
+  cmdRemove = Find<wxButton>("cmdRemove");
+  members_ = std::make_unique<MemberList>("frmRoleProperty", *Find<ctExplorer>("ctUser"),
+                                          *Find<wxStaticText>("lblCount"), [this] { SetButtonStatus(); });
+  cmdAdd->Bind(wxEVT_BUTTON,
+               [this](wxCommandEvent&) { RunEvent("cmdAdd_Click", [this] { cmdAdd_Click(); }); });
+  cmdRemove->Bind(wxEVT_BUTTON,
+                  [this](wxCommandEvent&) { RunEvent("cmdRemove_Click", [this] { cmdRemove_Click(); }); });
+  FollowLanguage();
+}
+
+void frmRoleProperty::OpenWindow(std::shared_ptr<Corvane::Role> role) try {
+  role_ = std::move(role);
+  members_->SetOwner(role_);
+  LoadInfoOnForm();
+  GetInfo();
+  members_->InitUserList();
+  // Who may not change the role's members can still look at them.
+  const bool mayChange = CheckSysPrivilege(ManageRoles);
+  cmdAdd->Enable(mayChange);
+  cmdRemove->Enable(mayChange);
+  Open();
+} catch (...) {
+  mindloft::Raise("frmRoleProperty", "OpenWindow");
+}
+
+void frmRoleProperty::LoadInfoOnForm() try {
+  PropertySheet::LoadInfoOnForm();
+  members_->LoadInfo();
+} catch (...) {
+  mindloft::Raise("frmRoleProperty", "LoadInfoOnForm");
+}
+
+void frmRoleProperty::ShowCaption() {
+  if (role_) SetCaption(false, 0, ToWx(role_->Name()));
+}
+
+void frmRoleProperty::GetInfo() try {
+  const LoadingGuard::Lock lock(loading_);
+  txtName->SetText(ToWx(role_->Name()));
+  txtPrivilege->SetText(ToWx(role_->PrivilegeText()));
+} catch (...) {
+  mindloft::Raise("frmRoleProperty", "GetInfo");
+}
+
+void frmRoleProperty::FillPage(int page) {
+  if (page == Members) members_->DisplayUsers();
+}
+
+void frmRoleProperty::SetButtonStatus() try { cmdApply->Enable(members_->Changed()); } catch (...) {
+  mindloft::Raise("frmRoleProperty", "SetButtonStatus");
+}
+
+void frmRoleProperty::cmdAdd_Click() {
+  members_->AddMembers();
+}
+
+void frmRoleProperty::cmdRemove_Click() {
+  members_->RemoveMembers();
+}
+
+void frmRoleProperty::SaveInfo() try {
+  if (members_->Pending().Empty()) return;
+  members_->Save();
+  SetSaved();
+} catch (...) {
+  mindloft::Raise("frmRoleProperty", "SaveInfo");
+}
+
+void frmRoleProperty::cmdApply_Click() {
+  SaveInfo();
+  members_->ClearChanged();
+  SetButtonStatus();
+  cmdOK->SetFocus();
+}
+
+void frmRoleProperty::CmdOK_Click() {
+  if (members_->Changed()) cmdApply_Click();
+  CloseSheet(wxID_OK);
+}
+
+// Additions and removals hold whatever others have done to the list meanwhile.
+bool frmRoleProperty::MergeConflict(const Error&) {
+  role_->Rebase(role_->Current());
+  return true;
+}
+
+}  // namespace mindloft
