@@ -71,6 +71,10 @@ class PropertySheet : public FormDialog {
     RunGuarded(procedureName, procedure);
   }
 
+  /// Runs a command that stores, as Apply and OK do: until it succeeds, fails, or the user goes back from a
+  /// conflict.
+  void RunSaving(const char* procedureName, const std::function<void()>& procedure) noexcept;
+
   wxButton* cmdOK = nullptr;
   wxButton* cmdApply = nullptr;
   wxButton* cmdCancel = nullptr;
@@ -78,8 +82,6 @@ class PropertySheet : public FormDialog {
  private:
   void BindHandlers();
   void RunGuarded(const char* procedureName, const std::function<void()>& procedure) noexcept;
-  /// Runs Apply or OK until it succeeds or the user goes back from a conflict.
-  void RunSaving(const char* procedureName, const std::function<void()>& procedure) noexcept;
   void Refresh_NotifyLanguage();
   void ShowPage(int page);
   void Form_QueryUnload(wxCloseEvent& event);

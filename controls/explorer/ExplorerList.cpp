@@ -1,8 +1,10 @@
 #include "controls/explorer/ExplorerList.h"
 
+#include <wx/renderer.h>
 #include <wx/wupdlock.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "controls/explorer/RowText.h"
 #include "core/ErrorHandling.h"
@@ -10,6 +12,9 @@
 namespace mindloft {
 
 namespace {
+
+/// On either side of a check box in lists that the toolkit draws, in pixels.
+constexpr int kCheckBoxMargin = 5;
 
 /// Where the toolkit draws the list itself, the list holds a window for the headings and one for the rows.
 wxWindow* FindRowsWindow(wxListCtrl* list) {
@@ -158,17 +163,44 @@ void ExplorerList::ScrollToTop(std::int64_t row) {
   ScrollList(0, static_cast<int>(row - TopRow()) * rect.height);
 }
 
+wxPoint ExplorerList::InRows(wxWindow* window, const wxPoint& point) const {
+  return window == rowsWindow_ ? point : rowsWindow_->ScreenToClient(window->ClientToScreen(point));
+}
+
+void ExplorerList::SetChecks(std::function<bool(const ExplorerRow&)> isChecked) {
+  isChecked_ = std::move(isChecked);
+  if (!HasCheckBoxes()) EnableCheckBoxes();
+  Refresh();
+}
+
+bool ExplorerList::IsOnCheckBox(std::int64_t row, wxWindow* window, const wxPoint& point) const {
+  if (!HasChecks()) return false;
+  const long item = static_cast<long>(row);
+  const int x = InRows(window, point).x;
+  wxRect whole;
+  if (!GetItemRect(item, whole)) return false;
+  if (IsDrawnByToolkit()) {
+    const wxSize box = wxRendererNative::Get().GetCheckBoxSize(rowsWindow_);
+    return x >= whole.x && x < whole.x + box.x + 2 * kCheckBoxMargin;
+  }
+  wxRect image;
+  return GetItemRect(item, image, wxLIST_RECT_ICON) && x >= whole.x && x < image.x;
+}
+
 std::int64_t ExplorerList::RowAt(wxWindow* window, const wxPoint& point) const {
   int flags = 0;
-  const wxPoint inRows =
-      window == rowsWindow_ ? point : rowsWindow_->ScreenToClient(window->ClientToScreen(point));
-  const long row = HitTest(inRows, flags);
+  const long row = HitTest(InRows(window, point), flags);
   return flags & wxLIST_HITTEST_ONITEM ? row : -1;
 }
 
 wxString ExplorerList::OnGetItemText(long item, long column) const {
   const ExplorerRow* row = cache_.Find(item);
   return row ? RowText(*row, breakCharacter_, static_cast<int>(column)) : wxString();
+}
+
+bool ExplorerList::OnGetItemIsChecked(long item) const {
+  const ExplorerRow* row = HasChecks() ? cache_.Find(item) : nullptr;
+  return row && isChecked_(*row);
 }
 
 int ExplorerList::OnGetItemImage(long item) const {

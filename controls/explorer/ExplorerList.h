@@ -43,6 +43,13 @@ class ExplorerList : public wxListCtrl {
   /// and scrolls the focused row into view.
   void ChangeSelection(const std::function<bool(SelectionModel&)>& action);
 
+  /// Gives every row a check box in front of it, whose state the source tells when it is drawn; nothing takes
+  /// the boxes away. They are only shown here: clicks and the space bar go through ExplorerListInput.
+  void SetChecks(std::function<bool(const ExplorerRow&)> isChecked);
+  bool HasChecks() const { return static_cast<bool>(isChecked_); }
+  /// Whether a point of `window` lies on the row's check box or beside it, before the row's text and image.
+  bool IsOnCheckBox(std::int64_t row, wxWindow* window, const wxPoint& point) const;
+
   std::int64_t TopRow() const { return GetTopItem(); }
   /// Scrolls so that the row is the topmost, as far as the end of the list allows.
   void ScrollToTop(std::int64_t row);
@@ -59,8 +66,12 @@ class ExplorerList : public wxListCtrl {
  protected:
   wxString OnGetItemText(long item, long column) const override;
   int OnGetItemImage(long item) const override;
+  bool OnGetItemIsChecked(long item) const override;
 
  private:
+  bool IsDrawnByToolkit() const { return rowsWindow_ != this; }
+  /// A point of `window` in the window of the rows.
+  wxPoint InRows(wxWindow* window, const wxPoint& point) const;
   void OnNativeSelection(wxListEvent& event, bool selected);
   /// Tells the native control the state of the rows that are on the screen.
   void ShowSelection();
@@ -70,6 +81,7 @@ class ExplorerList : public wxListCtrl {
   mutable RowCache cache_{rows_};
   SelectionModel selection_;
   SelectionKeys keys_;
+  std::function<bool(const ExplorerRow&)> isChecked_;
   wxUniChar breakCharacter_ = '\t';
   std::vector<ExplorerColumn> columns_;
   wxWindow* rowsWindow_ = nullptr;

@@ -81,6 +81,10 @@ bool ExplorerListInput::HandleKey(int key, int modifiers) {
     return true;
   }
   if (key == WXK_SPACE && !typed_.Active() && focus >= 0) {
+    if (modifiers == wxMOD_NONE && list_.HasChecks()) {
+      if (checkClicked) checkClicked(focus);
+      return true;
+    }
     list_.ChangeSelection([&](SelectionModel& selection) {
       if (modifiers == wxMOD_CONTROL) return selection.Toggle(focus);
       return modifiers == wxMOD_SHIFT ? selection.ExtendTo(focus, false) : selection.SelectOnly(focus);
@@ -151,7 +155,13 @@ void ExplorerListInput::OnButton(wxMouseEvent& event) {
     if (modifiers & wxMOD_SHIFT) return selection.ExtendTo(row, (modifiers & wxMOD_CONTROL) != 0);
     return modifiers & wxMOD_CONTROL ? selection.Toggle(row) : selection.SelectOnly(row);
   });
-  if (event.GetEventType() == wxEVT_LEFT_DCLICK) Activate(row);
+  const bool onCheckBox = !right && row >= 0 && (modifiers & (wxMOD_SHIFT | wxMOD_CONTROL)) == 0 &&
+                          list_.IsOnCheckBox(row, window ? window : list_.RowsWindow(), event.GetPosition());
+  // The second click of a fast user is one more click on the box.
+  if (onCheckBox && checkClicked)
+    checkClicked(row);
+  else if (event.GetEventType() == wxEVT_LEFT_DCLICK)
+    Activate(row);
   // The desktop makes the menu's event of a right click.
   if (right) event.Skip();
 }

@@ -21,6 +21,7 @@ class ExplorerListInput {
   std::function<bool(int keyCode, int modifiers)> keyDown;  ///< asked before any key is handled here
   std::function<void(std::int64_t row)> activated;          ///< double click or Enter
   std::function<void(wxPoint screen)> contextMenu;
+  std::function<void(std::int64_t row)> checkClicked;  ///< a click on the check box, or Space
 
   /// The rows are others now: what was typed means nothing any more.
   void Reset() { typed_.Reset(); }

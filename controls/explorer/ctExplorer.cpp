@@ -95,6 +95,7 @@ bool ctExplorer::Create(wxWindow* parent, const wxString& name, bool withTree) {
       if (lvContextMenu) lvContextMenu(screen);
     });
   };
+  impl_->pane->Input().checkClicked = [this](std::int64_t row) { ClickCheck(row); };
   impl_->pane->Input().keyDown = asked;
   return true;
 }
@@ -283,6 +284,23 @@ ExplorerListState ctExplorer::ListState() const {
 
 void ctExplorer::RestoreList(const ExplorerListState& state) {
   impl_->pane->RestoreState(state);
+}
+
+void ctExplorer::SetCheckBoxes(std::function<bool(const ExplorerRow& row)> isChecked) {
+  impl_->List().SetChecks(std::move(isChecked));
+}
+
+void ctExplorer::ClickCheck(std::int64_t row) {
+  if (!impl_->List().HasChecks() || row < 0 || row >= ListCount() || !lvCheckClick) return;
+  Guarded("ctExplorer", "lvCheckClick", [&] {
+    const ExplorerRow clicked = ListRow(row);
+    lvCheckClick(clicked);
+    RefreshChecks();
+  });
+}
+
+void ctExplorer::RefreshChecks() {
+  impl_->List().Refresh();
 }
 
 void ctExplorer::SetSearchHint(const wxString& hint) {

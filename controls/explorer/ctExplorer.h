@@ -89,6 +89,13 @@ class ctExplorer : public wxPanel {
   /// The present filter, order and selection, and the same again for a list of the same columns.
   ExplorerListState ListState() const;
   void RestoreList(const ExplorerListState& state);
+  /// Gives the rows check boxes. `isChecked` is asked whenever a row is drawn: it must be quick, ask no back
+  /// end and throw nothing.
+  void SetCheckBoxes(std::function<bool(const ExplorerRow& row)> isChecked);
+  /// Does what a click on the row's check box does; a row that is not there changes nothing.
+  void ClickCheck(std::int64_t row);
+  /// Draws the rows anew whose check marks the program has changed.
+  void RefreshChecks();
   void SetSearchHint(const wxString& hint);
   void FocusSearch();
   void FocusList();
@@ -104,6 +111,8 @@ class ctExplorer : public wxPanel {
   std::function<void()> lvSelChange;
   std::function<void(std::int64_t row)> lvItemDblClick;  ///< also Enter
   std::function<void(wxPoint screen)> lvContextMenu;
+  /// The user asks for the other state of a row's check box; whether it changes is up to the handler.
+  std::function<void(const ExplorerRow& row)> lvCheckClick;
   std::function<void()> lvCountChange;                      ///< filter or refresh changed the number of rows
   std::function<bool(int keyCode, int modifiers)> keyDown;  ///< keys of tree and list; true: handled
 

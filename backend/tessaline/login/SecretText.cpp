@@ -6,8 +6,9 @@
 
 namespace mindloft {
 
-SecretText::SecretText(const wxTextCtrl& field) {
-  wxString text = field.GetValue();
+SecretText::SecretText(const wxTextCtrl& field) : SecretText(field.GetValue()) {}
+
+SecretText::SecretText(wxString text) {
   text_ = ToUtf8(text);
   WipeText(text);
 }

@@ -13,6 +13,8 @@ namespace mindloft {
 class SecretText {
  public:
   explicit SecretText(const wxTextCtrl& field);
+  /// Takes the text over and overwrites that too.
+  explicit SecretText(wxString text);
   ~SecretText();
   SecretText(const SecretText&) = delete;
   SecretText& operator=(const SecretText&) = delete;
