@@ -205,11 +205,21 @@ TEST_F(LanguageCompletenessTest, EverySystemErrorHasAText) {
 
 // A control whose name starts with "_" or "sp" shows no text of its own; those in this list show what the
 // program puts there.
-const std::set<std::string> filledByProgram = {"frmLogin.txtWhere", "frmLogin.lblMessage",
-                                               "frmCreateDirectory.lblPlace", "frmCreateDirectory.lblHint",
-                                               "frmListUser.lblCount", "frmSelectUnit.lblCount",
-                                               "frmDGroupProperty.lblCount", "frmRoleProperty.lblCount",
-                                               "frmDGroupProperty.txtDescription"};
+const std::set<std::string> filledByProgram = {"frmLogin.txtWhere",
+                                               "frmLogin.lblMessage",
+                                               "frmCreateDirectory.lblPlace",
+                                               "frmCreateDirectory.lblHint",
+                                               "frmListUser.lblCount",
+                                               "frmSelectUnit.lblCount",
+                                               "frmDGroupProperty.lblCount",
+                                               "frmRoleProperty.lblCount",
+                                               "frmDGroupProperty.txtDescription",
+                                               "frmConflict.lblWhat",
+                                               "frmUserDetail.txtLastLogin",
+                                               "frmUserDetail.lblStrength",
+                                               "frmDomainInfo.lblCount",
+                                               "frmDeleteKDomainProgress.lblWhat",
+                                               "frmDeleteKDomainProgress.lblRows"};
 
 TEST_F(LanguageCompletenessTest, EveryControlOfAFormThatShowsATextHasACaption) {
   static const std::set<std::string> showing = {"wxButton",         "wxCheckBox", "wxRadioButton",
