@@ -30,4 +30,9 @@ void RegisterControls() {
   static_cast<void>(registered);
 }
 
+wxWindow* WithControls(wxWindow* parent) {
+  RegisterControls();
+  return parent;
+}
+
 }  // namespace mindloft

@@ -5,6 +5,7 @@
 #include <wx/utils.h>
 
 #include "backend/tessaline/Services.h"
+#include "controls/RegisterControls.h"
 #include "core/ErrorHandling.h"
 
 namespace mindloft {
@@ -17,7 +18,7 @@ constexpr int kLoseChanges = 61600;
 }  // namespace
 
 PropertySheet::PropertySheet(wxWindow* parent, const char* formName, const char* tabs)
-    : FormDialog(parent, formName), className_(formName) {
+    : FormDialog(WithControls(parent), formName), className_(formName) {
   cmdOK = Find<wxButton>("cmdOK");
   cmdApply = Find<wxButton>("cmdApply");
   cmdCancel = Find<wxButton>("cmdCancel");

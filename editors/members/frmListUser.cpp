@@ -10,6 +10,7 @@
 #include "backend/corvane/Corvane.h"
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Services.h"
+#include "controls/RegisterControls.h"
 #include "controls/explorer/ctExplorer.h"
 #include "controls/rows/UserRows.h"
 #include "core/ErrorHandling.h"
@@ -25,7 +26,7 @@ constexpr int kTitle = 59358;
 
 }  // namespace
 
-frmListUser::frmListUser(wxWindow* parent) : FormDialog(parent, "frmListUser") {
+frmListUser::frmListUser(wxWindow* parent) : FormDialog(WithControls(parent), "frmListUser") {
   ctUser = Find<ctExplorer>("ctUser");
   lblCount = Find<wxStaticText>("lblCount");
   SetButtons("cmdOK", "cmdCancel");

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "backend/corvane/Corvane.h"
+#include "controls/RegisterControls.h"
 #include "controls/explorer/ctExplorer.h"
 #include "controls/rows/UserRows.h"
 #include "core/ErrorHandling.h"
@@ -29,7 +30,7 @@ std::vector<wxBitmapBundle> StateImages() {
 }  // namespace
 
 frmSelectUnit::frmSelectUnit(wxWindow* parent, Flag lacks)
-    : FormDialog(parent, "frmSelectUnit"), lacks_(std::move(lacks)) {
+    : FormDialog(WithControls(parent), "frmSelectUnit"), lacks_(std::move(lacks)) {
   if (!lacks_) lacks_ = [](const Corvane::User& user) { return !user.Enabled(); };
   ctNotPrivilege = Find<ctExplorer>("ctNotPrivilege");
   lblCount = Find<wxStaticText>("lblCount");

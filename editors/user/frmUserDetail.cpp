@@ -10,7 +10,6 @@
 #include "backend/directory/Privileges.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
-#include "controls/RegisterControls.h"
 #include "controls/explorer/ctExplorer.h"
 #include "controls/texts/FramedTextBox.h"
 #include "core/ErrorHandling.h"
@@ -26,15 +25,10 @@ constexpr int kMyPassword = 61608;
 constexpr int kTheirPassword = 61609;
 constexpr int kNeverLoggedIn = 61614;
 
-wxWindow* WithControls(wxWindow* parent) {
-  RegisterControls();
-  return parent;
-}
-
 }  // namespace
 
 frmUserDetail::frmUserDetail(wxWindow* parent)
-    : PropertySheet(WithControls(parent), "frmUserDetail", "sstUser") {
+    : PropertySheet(parent, "frmUserDetail", "sstUser") {
   cmdResetPwd = Find<wxButton>("cmdResetPwd");
   chkEnabled = Find<wxCheckBox>("chkEnabled");
   txtLastLogin = Find<wxStaticText>("txtLastLogin");
