@@ -2,6 +2,7 @@
 
 #include <wx/bookctrl.h>
 #include <wx/button.h>
+#include <wx/sizer.h>
 #include <wx/utils.h>
 
 #include "backend/tessaline/Services.h"
@@ -14,6 +15,15 @@ namespace {
 constexpr int kPropertiesOf = 59352;
 constexpr int kWarningTitle = 59102;
 constexpr int kLoseChanges = 61600;
+
+/// Never in less room than the contents need, as at first, when a page has no size yet: the desktop complains
+/// about controls that are squeezed.
+void LayoutPage(wxWindow& page) {
+  if (!page.GetSizer()) return;
+  wxSize room = page.GetClientSize();
+  room.IncTo(page.GetSizer()->GetMinSize());
+  page.GetSizer()->SetDimension(wxPoint(), room);
+}
 
 }  // namespace
 
@@ -42,6 +52,11 @@ void PropertySheet::BindHandlers() {
   });
   Bind(wxEVT_CLOSE_WINDOW, &PropertySheet::Form_QueryUnload, this);
   if (!tabs_) return;
+  for (std::size_t page = 0; page < tabs_->GetPageCount(); ++page) {
+    wxWindow* window = tabs_->GetPage(page);
+    window->SetAutoLayout(false);
+    window->Bind(wxEVT_SIZE, [window](wxSizeEvent&) { LayoutPage(*window); });
+  }
   tabs_->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [this](wxBookCtrlEvent& event) {
     event.Skip();
     if (event.GetEventObject() != tabs_ || event.GetSelection() < 0) return;
@@ -79,6 +94,7 @@ void PropertySheet::RunSaving(const char* procedureName, const std::function<voi
 
 void PropertySheet::LoadInfoOnForm() try {
   FormDialog::LoadInfoOnForm();
+  for (std::size_t page = 0; tabs_ && page < tabs_->GetPageCount(); ++page) LayoutPage(*tabs_->GetPage(page));
   ShowCaption();
 } catch (...) {
   mindloft::Raise(className_, "LoadInfoOnForm");

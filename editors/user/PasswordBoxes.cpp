@@ -142,11 +142,11 @@ void PasswordBoxes::ShowHints() {
   chkShowPwd->Enable(!locked_);
   cmdGenerate->Enable(!locked_);
   cmdCopyPwd->Enable(!locked_ && !txtPwd->Text().empty() && AreEqual());
+  ShowCapsLock();
 }
 
 void PasswordBoxes::ShowCapsLock() {
-  if (!lblCapsLock->Show(platform::IsCapsLockOn())) return;
-  lblCapsLock->GetParent()->Layout();
+  lblCapsLock->Show(!locked_ && platform::IsCapsLockOn());
 }
 
 void PasswordBoxes::chkShowPwd_Click() {
