@@ -55,6 +55,7 @@ MenuBuilder::MenuBuilder(wxFrame& frame, const CommandSet& commands, const Objec
 void MenuBuilder::BuildMenuBar() {
   auto bar = std::make_unique<wxMenuBar>();
   sortMenu_ = nullptr;
+  languageMenu_ = nullptr;
   sortColumns_.clear();
   for (const auto& menu : Layout()) bar->Append(BuildMenu(menu.items), CommandSet::Caption(menu.name));
   // Where a menu bar is no window it takes the direction of its frame.
@@ -73,7 +74,8 @@ wxMenu* MenuBuilder::BuildMenu(const std::vector<wxString>& names) {
       sortMenu_ = new wxMenu;
       menu->AppendSubMenu(sortMenu_, CommandSet::Caption(name));
     } else if (name == kLanguageMenu) {
-      menu->AppendSubMenu(BuildLanguageMenu(), CommandSet::Caption(name));
+      languageMenu_ = new wxMenu;
+      menu->AppendSubMenu(languageMenu_, CommandSet::Caption(name));
     } else {
       Append(*menu, name);
     }
@@ -101,14 +103,13 @@ void MenuBuilder::Append(wxMenu& menu, const wxString& name) const {
               command->checked ? wxITEM_CHECK : wxITEM_NORMAL);
 }
 
-wxMenu* MenuBuilder::BuildLanguageMenu() const {
-  auto menu = std::make_unique<wxMenu>();
+void MenuBuilder::ListLanguages() {
+  if (!languageMenu_ || languageMenu_->GetMenuItemCount() > 0) return;
   for (const int code : GetResource().Languages()) {
-    auto* item = menu->AppendRadioItem(LanguageMenu::ItemId(code),
-                                       wxControl::EscapeMnemonics(GetResource().LanguageName(code)));
+    auto* item = languageMenu_->AppendRadioItem(LanguageMenu::ItemId(code),
+                                                wxControl::EscapeMnemonics(GetResource().LanguageName(code)));
     if (code == GetResource().CurrentLanguage()) item->Check();
   }
-  return menu.release();
 }
 
 std::unique_ptr<wxMenu> MenuBuilder::ContextMenu(const DirectoryKind* listed, const SelectionState& selection,

@@ -25,6 +25,9 @@ class MenuBuilder {
   /// The context menu of a kind's objects: its own commands, then those of the list or tree.
   std::unique_ptr<wxMenu> ContextMenu(const DirectoryKind* listed, const SelectionState& selection,
                                       bool ofList) const;
+  /// Lists the languages once a menu is opened: each one's file is read for it, for which the start has no
+  /// time.
+  void ListLanguages();
   /// Enables and checks all items of the menu bar.
   void Update(const SelectionState& selection);
 
@@ -41,13 +44,13 @@ class MenuBuilder {
  private:
   wxMenu* BuildMenu(const std::vector<wxString>& names);
   void Append(wxMenu& menu, const wxString& name) const;
-  wxMenu* BuildLanguageMenu() const;
   std::vector<wxString> NewCommands() const;
 
   wxFrame& frame_;
   const CommandSet& commands_;
   const ObjectKindRegistry& kinds_;
   wxMenu* sortMenu_ = nullptr;
+  wxMenu* languageMenu_ = nullptr;
   std::vector<SortColumn> sortColumns_;
 };
 

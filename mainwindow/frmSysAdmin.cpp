@@ -275,7 +275,10 @@ void frmSysAdmin::ConnectCommands() {
   Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
     event.Skip();
     // Sorting and the bars can change without a selection.
-    Guarded("frmSysAdmin", "MenuOpen", [this] { UpdateCommands(); });
+    Guarded("frmSysAdmin", "MenuOpen", [this] {
+      menus_->ListLanguages();
+      UpdateCommands();
+    });
   });
 }
 

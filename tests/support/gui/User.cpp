@@ -158,6 +158,10 @@ void User::Command(int id) {
   // Commands get their state when the toolkit is idle or a menu is opened.
   frame->UpdateWindowUI(wxUPDATE_UI_RECURSE);
   auto* bar = frame->GetMenuBar();
+  if (bar && bar->GetMenuCount() > 0) {
+    wxMenuEvent opened(wxEVT_MENU_OPEN, 0, bar->GetMenu(0));
+    frame->HandleWindowEvent(opened);
+  }
   auto* item = bar ? bar->FindItem(id) : nullptr;
   auto* tools = frame->GetToolBar();
   bool tool = tools && tools->FindById(id);
