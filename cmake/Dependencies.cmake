@@ -10,8 +10,8 @@ option(MINDLOFT_WERROR "Treat warnings as errors" OFF)
 option(MINDLOFT_SANITIZE "Address and undefined behaviour sanitizers" OFF)
 
 add_library(mindloft_options INTERFACE)
-target_compile_options(mindloft_options INTERFACE -Wall -Wextra -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual
-                                                  $<$<BOOL:${MINDLOFT_WERROR}>:-Werror>)
+target_compile_options(mindloft_options INTERFACE -Wall -Wextra $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local> -Wnon-virtual-dtor
+                                                  -Woverloaded-virtual $<$<BOOL:${MINDLOFT_WERROR}>:-Werror>)
 # GCC 12 warns of overlaps inside std::string where there are none, when it optimises (its bug 105651).
 target_compile_options(mindloft_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_compile_definitions(mindloft_options INTERFACE MINDLOFT_VERSION="${PROJECT_VERSION}" UTF8PROC_STATIC
