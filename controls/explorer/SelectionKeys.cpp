@@ -52,7 +52,7 @@ void SelectionKeys::Track(const RowRanges& tracked, RowCache& cache, ExplorerRow
 }
 
 bool SelectionKeys::Restore(SelectionModel& selection, ExplorerRows& rows, std::int64_t count,
-                            Change change) const {
+                            Change change) {
   // Rows that have come meanwhile are not part of what was chosen before they were there.
   const bool contents = change == Change::Contents;
   const bool grown = contents && count > selection.RowCount();
@@ -61,15 +61,20 @@ bool SelectionKeys::Restore(SelectionModel& selection, ExplorerRows& rows, std::
   std::int64_t focus = focusKey_.empty() ? -1 : rows.PositionOf(focusKey_);
   if (focus < 0 && focus_ >= 0 && contents) focus = std::min(focus_, count - 1);
 
+  // The places that are known belong to the list as it was.
+  std::vector<KeyedRow> known;
+  known.swap(keys_);
+  const std::size_t sought = known.size();
   RowRanges next;
-  std::size_t found = 0;
   if (!allStay && !overflow_ && (!complement_ || sameRows)) {
     std::vector<std::int64_t> positions;
-    for (const KeyedRow& keyed : keys_) {
+    for (KeyedRow& keyed : known) {
       const std::int64_t position = rows.PositionOf(keyed.second);
-      if (position >= 0) positions.push_back(position);
+      if (position < 0) continue;
+      positions.push_back(position);
+      keys_.emplace_back(position, std::move(keyed.second));
     }
-    found = positions.size();
+    std::sort(keys_.begin(), keys_.end());
     next = RowRanges::FromRows(std::move(positions));
   }
   if (allStay || (complement_ && sameRows)) next = next.Complement(count);
@@ -78,7 +83,7 @@ bool SelectionKeys::Restore(SelectionModel& selection, ExplorerRows& rows, std::
   selection.Reset(count);
   selection.Assign(std::move(next), focus);
   // The same rows at other places are the same selection.
-  const bool allFound = Complete() && found == keys_.size();
+  const bool allFound = Complete() && keys_.size() == sought;
   return !(allFound || (allStay && before == count) || !anything_);
 }
 

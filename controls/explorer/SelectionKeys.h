@@ -29,8 +29,8 @@ class SelectionKeys {
     Widening,   ///< other rows: only those stay selected whose keys are known
   };
   /// Selects and focuses the known rows at their new places in a list of `count` rows; whether the selected
-  /// set is another one now.
-  bool Restore(SelectionModel& selection, ExplorerRows& rows, std::int64_t count, Change change) const;
+  /// set is another one now. Update must follow.
+  bool Restore(SelectionModel& selection, ExplorerRows& rows, std::int64_t count, Change change);
 
   /// Whether `Rows` knows all selected rows.
   bool Complete() const { return complete_; }

@@ -104,6 +104,14 @@ TEST_F(ExplorerListTest, SelectionFollowsItsRows) {
   EXPECT_EQ(explorer_->FocusedListRow(), 499'999);
 }
 
+TEST_F(ExplorerListTest, NeighboursStaySelectedWhenTheyMoveUp) {
+  ClickRow(1);
+  ClickRow(2, wxMOD_CONTROL);
+  rows_->removed.insert(0);
+  explorer_->RefreshList();
+  EXPECT_THAT(SelectedKeys(), ElementsAre("k0000001", "k0000002"));
+}
+
 TEST_F(ExplorerListTest, FilterListsWhatIsTyped) {
   ClickRow(3);
   auto& search = user_->Find<wxSearchCtrl>("search");
