@@ -47,7 +47,9 @@ frmConflict::frmConflict(wxWindow* parent, const Error& conflict,
   pnlFields = Find<wxPanel>("pnlFields");
   SetButtons("cmdMine", "cmdBack");
   // Enter must not decide against either side.
-  Find<wxButton>("cmdBack")->SetDefault();
+  auto* back = Find<wxButton>("cmdBack");
+  back->SetDefault();
+  back->SetFocus();
   ShowDifferences(differences);
   const wxString what = GetResource().GetFormatString(
       kChangedMeanwhile, {Parameter(conflict, 0), Parameter(conflict, 1), Parameter(conflict, 2)});

@@ -61,7 +61,7 @@ ObjectId IdOf(const ExplorerRow& row) {
 }  // namespace
 
 void frmUserDetail::InitLists() try {
-  mindloft::InitCheckList(*ctRole, {{kName, 160}, {kPrivileges, 300}}, roles_);
+  mindloft::InitCheckList(*ctRole, {{kName, 190}, {kPrivileges, 240}}, roles_);
   mindloft::InitCheckList(*ctDomain, {{kName, 160}, {kDescription, 200}, {kState, 90}}, domains_);
   mindloft::InitCheckList(*ctGroup, {{kName, 160}, {kDomain, 150}, {kDescription, 150}}, changedGroups_);
   ctRole->lvCheckClick = [this](const ExplorerRow& row) {
