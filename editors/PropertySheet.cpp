@@ -76,12 +76,10 @@ void PropertySheet::RunSaving(const char* procedureName, const std::function<voi
     try {
   for (;;) {
     try {
-      const wxBusyCursor busy;
       procedure();
       return;
     } catch (const Error& error) {
       if (error.Number() != ErrorNumber::Conflict) throw;
-      const wxBusyCursorSuspender question;
       if (MergeConflict(error)) continue;
     }
     cmdApply->Enable();

@@ -2,6 +2,7 @@
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/utils.h>
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
@@ -68,6 +69,7 @@ bool frmUserDetail::SaveUser() try {
       if (!ok) return false;
     }
   }
+  const wxBusyCursor busy;
   if (infoChanged_ || user_->IsNew()) {
     SetUserInfo();
     StoreUser();
