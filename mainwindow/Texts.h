@@ -11,9 +11,9 @@ inline constexpr int kColumnPrivileges = 59310;
 inline constexpr int kMessageTitle = 59101;
 inline constexpr int kLoggedInAs = 59662;
 
-inline constexpr int kCountFiltered = 61100;       ///< %1 rows shown of %2
-inline constexpr int kCount = 61102;               ///< %1 rows
-inline constexpr int kSelected = 61103;            ///< %1 rows selected
+inline constexpr int kCountFiltered = 61100;  ///< %1 rows shown of %2
+inline constexpr int kCount = 61102;          ///< %1 rows
+inline constexpr int kSelected = 61103;       ///< %1 rows selected
 inline constexpr int kSearchHint = 61104;
 inline constexpr int kWorkingFolderIs = 61107;  ///< %1 the folder
 inline constexpr int kNoWorkingFolder = 61108;

@@ -27,8 +27,7 @@ constexpr int kNeverLoggedIn = 61614;
 
 }  // namespace
 
-frmUserDetail::frmUserDetail(wxWindow* parent)
-    : PropertySheet(parent, "frmUserDetail", "sstUser") {
+frmUserDetail::frmUserDetail(wxWindow* parent) : PropertySheet(parent, "frmUserDetail", "sstUser") {
   cmdResetPwd = Find<wxButton>("cmdResetPwd");
   chkEnabled = Find<wxCheckBox>("chkEnabled");
   txtLastLogin = Find<wxStaticText>("txtLastLogin");
