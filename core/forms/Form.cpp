@@ -102,6 +102,12 @@ void FormDialog::GrowToContents() {
 void FormDialog::LoadInfoOnForm() try {
   GetResource().LoadInfoOnForm(*this);
   ApplyLayoutDirection(*this);
+  FitToContents();
+} catch (...) {
+  mindloft::Raise("FormDialog", "LoadInfoOnForm");
+}
+
+void FormDialog::FitToContents() {
   if (!GetSizer()) return;
   wxSize present = GetSize();
   SetMinSize(wxDefaultSize);
@@ -111,8 +117,6 @@ void FormDialog::LoadInfoOnForm() try {
   present.IncTo(needed);
   SetSize(IsShown() ? present : needed);
   Layout();
-} catch (...) {
-  mindloft::Raise("FormDialog", "LoadInfoOnForm");
 }
 
 int FormDialog::ShowModal() {

@@ -66,6 +66,8 @@ class FormDialog : public wxDialog {
   bool Layout() override;
 
  protected:
+  /// Makes the form large enough for its contents, after these have changed.
+  void FitToContents();
   /// The buttons of Enter and Esc. ShowModal returns wxID_OK or wxID_CANCEL when they close the form.
   void SetButtons(const char* defaultButton, const char* escapeButton);
   template <typename Control>

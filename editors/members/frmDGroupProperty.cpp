@@ -1,5 +1,6 @@
 #include "editors/members/frmDGroupProperty.h"
 
+#include <wx/arrstr.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/stattext.h>
@@ -24,6 +25,9 @@ constexpr int kNewGroup = 59355;
 /// Of the stored description, in pixels at 96 dpi.
 constexpr int kDescriptionWidth = 320;
 
+/// Lines of it; the tool tip shows the rest of a longer one.
+constexpr int kDescriptionLines = 6;
+
 enum Page : int { General, Members };
 
 /// The text in one line: each line break of a character becomes a blank.
@@ -31,6 +35,12 @@ wxString OneLine(wxString text) {
   text.Replace("\r", " ");
   text.Replace("\n", " ");
   return text;
+}
+
+wxString FirstLines(const wxString& text) {
+  const wxArrayString lines = wxSplit(text, '\n', '\0');
+  if (lines.size() <= kDescriptionLines) return text;
+  return wxJoin(wxArrayString(kDescriptionLines, &lines[0]), '\n', '\0') + wxUniChar(0x2026);
 }
 
 }  // namespace
@@ -106,8 +116,16 @@ void frmDGroupProperty::ShowDescription() {
   TxtDesc->SetText(OneLine(ToWx(group_->Description())));
   const wxString stored = group_->IsNew() ? wxString() : ToWx(group_->Stored().description);
   SetWrappedLabel(*txtDescription, stored, FromDIP(kDescriptionWidth));
+  const wxString wrapped = txtDescription->GetLabelText();
+  const wxString shown = FirstLines(wrapped);
+  txtDescription->UnsetToolTip();
+  if (shown != wrapped) {
+    txtDescription->SetLabelText(shown);
+    txtDescription->SetToolTip(stored);
+  }
   lblStored->Show(!stored.empty());
   txtDescription->Show(!stored.empty());
+  if (IsShown()) FitToContents();
 }
 
 void frmDGroupProperty::ShowPrivileges() {

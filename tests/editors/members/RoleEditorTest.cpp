@@ -82,7 +82,7 @@ TEST_F(RoleEditorTest, TheLastWhoManagesUsersStays) {
     Select(user, {"admin"});
     user.Click("cmdRemove");
     modal.ExpectForm("frmErrorManager", [](User& error) {
-      EXPECT_THAT(ToUtf8(error.Read("lblHeadline")), HasSubstr(ToUtf8(GetResource().GetString(60046))));
+      EXPECT_THAT(ToUtf8(error.Read("lblHeadline")), HasSubstr("last one who may manage users"));
       error.Click("cmdOK");
     });
     user.Click("cmdApply");
