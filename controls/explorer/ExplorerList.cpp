@@ -169,7 +169,13 @@ wxPoint ExplorerList::InRows(wxWindow* window, const wxPoint& point) const {
 
 void ExplorerList::SetChecks(std::function<bool(const ExplorerRow&)> isChecked) {
   isChecked_ = std::move(isChecked);
-  if (!HasCheckBoxes()) EnableCheckBoxes();
+  if (!HasCheckBoxes()) {
+    // A list that holds rows already may set the boxes of all of them, one by one.
+    const std::int64_t count = GetItemCount();
+    SetNativeCount(0);
+    EnableCheckBoxes();
+    SetNativeCount(count);
+  }
   Refresh();
 }
 
