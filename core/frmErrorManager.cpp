@@ -89,6 +89,8 @@ frmErrorManager::frmErrorManager(wxWindow* parent)
       picture_("Information") {
   SetButtons("cmdOK", "cmdOK");
   txtMessage->SetBackgroundColour(GetBackgroundColour());
+  // Where boxes have margins the text would not begin below the headline's.
+  txtMessage->SetMargins(0);
   wxFont font = lblHeadline->GetFont();
   lblHeadline->SetFont(font.MakeBold());
   picMoreInfoMation->Hide();
