@@ -6,9 +6,15 @@
 #include "controls/rows/UserRows.h"
 #include "core/Refresh.h"
 #include "core/modShare.h"
+#include "editors/domains/DomainRights.h"
 #include "mainwindow/ObjectKindRegistry.h"
 #include "mainwindow/Texts.h"
 #include "mainwindow/TreeKeys.h"
+#include "mainwindow/objects/DomainCommands.h"
+#include "mainwindow/objects/DomainUserCommands.h"
+#include "mainwindow/objects/GroupCommands.h"
+#include "mainwindow/objects/RoleCommands.h"
+#include "mainwindow/objects/UserCommands.h"
 
 namespace mindloft {
 
@@ -20,12 +26,8 @@ auto HoldsSys(std::uint32_t privilege) {
   return [privilege](const KindScope&) { return CheckSysPrivilege(privilege); };
 }
 
-/// For those who may do it in this one domain, and for those who may change any domain.
 auto HoldsInDomain(std::uint32_t privilege) {
-  return [privilege](const KindScope& scope) {
-    return scope.domain &&
-           (CheckDomainPrivilege(scope.domain, privilege) || CheckSysPrivilege(ChangeDomains));
-  };
+  return [privilege](const KindScope& scope) { return MayChangeDomain(scope.domain, privilege); };
 }
 
 /// A node that lists its own child nodes.
@@ -36,9 +38,6 @@ DirectoryKind FolderOfNodes(const wxString& key) {
   return kind;
 }
 
-// The commands of a kind have no action until an editor for it is registered here; until then they are shown
-// disabled.
-
 DirectoryKind Domains() {
   DirectoryKind kind;
   kind.key = keys::kDomains;
@@ -47,9 +46,12 @@ DirectoryKind Domains() {
     return std::make_shared<DomainRows>(scope.server->KDomains()->View());
   };
   kind.notifyKind = static_cast<std::int32_t>(ObjectKind::Domain);
-  kind.create = {.name = "mnuDomainaddNew", .allowed = HoldsSys(CreateDomains), .action = {}};
-  kind.remove = {.name = "mnuDomainDelete", .allowed = HoldsSys(DeleteDomains), .action = {}};
-  kind.edit = {.name = "mnuDomainProperties", .allowed = {}, .action = {}};
+  kind.create = {.name = "mnuDomainaddNew", .allowed = HoldsSys(CreateDomains), .action = NewDomain};
+  kind.remove = {.name = "mnuDomainDelete",
+                 .allowed = HoldsSys(DeleteDomains),
+                 .action = DeleteSelectedDomains,
+                 .onMany = true};
+  kind.edit = {.name = "mnuDomainProperties", .allowed = {}, .action = ShowDomainProperties};
   return kind;
 }
 
@@ -61,9 +63,12 @@ DirectoryKind AllUsers() {
     return std::make_shared<UserRows>(scope.server->Users()->View());
   };
   kind.notifyKind = static_cast<std::int32_t>(ObjectKind::User);
-  kind.create = {.name = "mnuUseraddNew", .allowed = HoldsSys(ManageUsers), .action = {}};
-  kind.remove = {.name = "mnuUserDelete", .allowed = HoldsSys(DeleteUsers), .action = {}, .onMany = true};
-  kind.edit = {.name = "mnuUserProperties", .allowed = {}, .action = {}};
+  kind.create = {.name = "mnuUseraddNew", .allowed = HoldsSys(ManageUsers), .action = NewUser};
+  kind.remove = {.name = "mnuUserDelete",
+                 .allowed = HoldsSys(DeleteUsers),
+                 .action = DeleteSelectedUsers,
+                 .onMany = true};
+  kind.edit = {.name = "mnuUserProperties", .allowed = {}, .action = ShowUserProperties};
   return kind;
 }
 
@@ -75,7 +80,7 @@ DirectoryKind AllRoles() {
     return std::make_shared<RoleRows>(scope.server->Roles()->View());
   };
   // Roles are neither made nor deleted in the console.
-  kind.edit = {.name = "mnuRoleProperties", .allowed = {}, .action = {}};
+  kind.edit = {.name = "mnuRoleProperties", .allowed = {}, .action = ShowRoleProperties};
   return kind;
 }
 
@@ -89,9 +94,10 @@ DirectoryKind GroupsOfDomain() {
   };
   kind.notifyKind = static_cast<std::int32_t>(ObjectKind::UserGroup);
   const auto allowed = HoldsInDomain(ManageDomainGroups);
-  kind.create = {.name = "mnuGroupaddNew", .allowed = allowed, .action = {}};
-  kind.remove = {.name = "mnuGroupDelete", .allowed = allowed, .action = {}, .onMany = true};
-  kind.edit = {.name = "mnuGroupProperties", .allowed = {}, .action = {}};
+  kind.create = {.name = "mnuGroupaddNew", .allowed = allowed, .action = NewGroup};
+  kind.remove = {
+      .name = "mnuGroupDelete", .allowed = allowed, .action = DeleteSelectedGroups, .onMany = true};
+  kind.edit = {.name = "mnuGroupProperties", .allowed = {}, .action = ShowGroupProperties};
   return kind;
 }
 
@@ -105,9 +111,9 @@ DirectoryKind UsersOfDomain() {
   };
   kind.notifyKind = static_cast<std::int32_t>(ObjectKind::DomainUser);
   const auto allowed = HoldsInDomain(ManageDomainUsers);
-  kind.create = {.name = "mnuDUseraddNew", .allowed = allowed, .action = {}};
-  kind.remove = {.name = "mnuDUserDelete", .allowed = allowed, .action = {}, .onMany = true};
-  kind.edit = {.name = "mnuDUserProperties", .allowed = {}, .action = {}};
+  kind.create = {.name = "mnuDUseraddNew", .allowed = allowed, .action = AddDomainUsers};
+  kind.remove = {.name = "mnuDUserDelete", .allowed = allowed, .action = RemoveDomainUsers, .onMany = true};
+  kind.edit = {.name = "mnuDUserProperties", .allowed = {}, .action = ShowDomainUserProperties};
   return kind;
 }
 

@@ -15,7 +15,7 @@
 namespace mindloft {
 namespace {
 
-constexpr int kRowsDone = 61712;   ///< %1 of %2
+constexpr int kRowsDone = 61712;  ///< %1 of %2
 constexpr int kCancelling = 61713;
 /// Parts of the whole that the bar can show.
 constexpr int kRange = 1000;

@@ -23,7 +23,6 @@ inline constexpr int kDeleteDomains = 61703;      ///< %1 how many
 inline constexpr int kMayNotDeleteGroups = 61704;
 inline constexpr int kMayNotRemoveDomainUsers = 61705;
 inline constexpr int kObjectIsGone = 60041;
-inline constexpr int kLastUserManager = 60046;
 inline constexpr int kBuiltIn = 60048;         ///< %1 its name
 inline constexpr int kDeletingDomain = 61710;  ///< %1 its name
 inline constexpr int kDeletingUsers = 61711;   ///< %1 how many

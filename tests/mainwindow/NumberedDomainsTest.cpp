@@ -7,6 +7,7 @@
 #include "mainwindow/DirectoryTree.h"
 #include "mainwindow/SelectionReader.h"
 #include "tests/mainwindow/MainWindowTest.h"
+#include "tests/support/gui/ModalDriver.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -52,13 +53,17 @@ TEST_F(NumberedDomainsTest, AreDomainsAllTheSame) {
     form_->RefreshAll();
     EXPECT_EQ(form_->GetTreeNodeIndex(), Node({"59300", "59301", key, "59305"}));
 
-    // A row of the domains leads to the domain, not to a fixed node.
+    // A row of the domains means the domain, not a fixed node.
     Select({"59300", "59301"});
     Explorer().SetFilter(key);
     ASSERT_EQ(Explorer().ListCount(), 1);
     Explorer().SelectListRow(0);
+    ModalDriver modal;
+    modal.ExpectForm("frmDomainInfo", [&](User& user) {
+      EXPECT_EQ(user.Read("txtName"), ToWx(Server().KDomains()->Item(key.ToStdString())->KDomain()->Name()));
+      user.Click("cmdCancel");
+    });
     form_->OpenSelected();
-    EXPECT_EQ(form_->GetTreeNodeIndex(), Node(domain));
   }
 }
 

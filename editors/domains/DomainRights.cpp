@@ -1,4 +1,4 @@
-#include "mainwindow/objects/DomainRights.h"
+#include "editors/domains/DomainRights.h"
 
 #include "backend/directory/Privileges.h"
 #include "core/modShare.h"

@@ -1,0 +1,93 @@
+#include "editors/domains/frmDUserAdd.h"
+
+#include <wx/button.h>
+#include <wx/utils.h>
+
+#include "backend/corvane/Corvane.h"
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/Text.h"
+#include "controls/explorer/ctExplorer.h"
+#include "controls/rows/UserRows.h"
+#include "core/ErrorHandling.h"
+#include "editors/domains/DomainTexts.h"
+#include "editors/domains/DomainUsersChange.h"
+#include "editors/members/UserList.h"
+
+namespace mindloft {
+
+frmDUserAdd::frmDUserAdd(wxWindow* owner) : FormDialog(owner, "frmDUserAdd") {
+  ctUser = Find<ctExplorer>("ctUser");
+  cmdOK = Find<wxButton>("cmdOK");
+  SetButtons("cmdOK", "cmdCancel");
+  ctUser->lvSelChange = [this] { SetButtonStatus(); };
+  ctUser->lvCountChange = [this] { SetButtonStatus(); };
+  ctUser->lvItemDblClick = [this](std::int64_t row) {
+    if (row >= 0) CmdOK_Click();
+  };
+  cmdOK->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { CmdOK_Click(); });
+  language_ = GetRefresh()->OnNotifyLanguage([this] { Refresh_NotifyLanguage(); });
+}
+
+int frmDUserAdd::OpenWindow(std::shared_ptr<Corvane::KDomain> domain) try {
+  domain_ = std::move(domain);
+  InitUserList(*ctUser);
+  LoadInfoOnForm();
+  DisplayUsers();
+  CentreOnParent();
+  ctUser->FocusSearch();
+  return ShowModal();
+} catch (...) {
+  mindloft::Raise("frmDUserAdd", "OpenWindow");
+}
+
+void frmDUserAdd::LoadInfoOnForm() try {
+  FormDialog::LoadInfoOnForm();
+  SetTitle(GetResource().GetFormatString(texts::kAddUsersTo, {ToWx(domain_->Name())}));
+} catch (...) {
+  mindloft::Raise("frmDUserAdd", "LoadInfoOnForm");
+}
+
+void frmDUserAdd::Refresh_NotifyLanguage() try {
+  LoadInfoOnForm();
+  ReloadUserList(*ctUser, Candidates());
+  SetButtonStatus();
+} catch (...) {
+  ShowError("frmDUserAdd", "Refresh_NotifyLanguage");
+}
+
+void frmDUserAdd::DisplayUsers() {
+  ShowUserList(*ctUser, Candidates());
+  SetButtonStatus();
+}
+
+std::shared_ptr<ExplorerRows> frmDUserAdd::Candidates() const {
+  return std::make_shared<UserRows>(domain_->GetUsersNotAccessible()->View());
+}
+
+void frmDUserAdd::SetButtonStatus() {
+  cmdOK->Enable(ctUser->SelectedListCount() > 0);
+}
+
+void frmDUserAdd::CmdOK_Click() try {
+  const wxBusyCursor busy;
+  if (ctUser->SelectedListCount() == 0 || !MayTakeSelected(*ctUser)) return;
+  const auto ids = SelectedItems();
+  ChangeDomainUsers(*domain_, ids, {});
+  firstAdded_ = domain_->DUsers()->Item(ids.substr(0, ids.find(';')));
+  EndModal(wxID_OK);
+} catch (...) {
+  ShowError("frmDUserAdd", "CmdOK_Click");
+  // Somebody may have deleted one of them.
+  ctUser->RefreshList();
+}
+
+std::string frmDUserAdd::SelectedItems() const {
+  std::string ids;
+  for (const auto& row : ctUser->SelectedListRows()) {
+    if (!ids.empty()) ids += ';';
+    ids += ToUtf8(row.key);
+  }
+  return ids;
+}
+
+}  // namespace mindloft

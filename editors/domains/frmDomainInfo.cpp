@@ -1,0 +1,263 @@
+#include "editors/domains/frmDomainInfo.h"
+
+#include <wx/bookctrl.h>
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/stattext.h>
+
+#include <algorithm>
+
+#include "backend/corvane/Corvane.h"
+#include "backend/directory/Privileges.h"
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/Text.h"
+#include "controls/explorer/ctExplorer.h"
+#include "controls/rows/GroupRows.h"
+#include "controls/texts/UseMultiLineTextBox.h"
+#include "controls/texts/UseTextBox.h"
+#include "core/ErrorHandling.h"
+#include "core/modShare.h"
+#include "editors/domains/DomainCopyPage.h"
+#include "editors/domains/DomainFields.h"
+#include "editors/domains/DomainLists.h"
+#include "editors/domains/DomainRights.h"
+#include "editors/domains/DomainTexts.h"
+#include "editors/domains/LongChange.h"
+#include "editors/members/MemberList.h"
+#include "editors/members/frmDGroupProperty.h"
+
+namespace mindloft {
+
+frmDomainInfo::frmDomainInfo(wxWindow* parent) : PropertySheet(parent, "frmDomainInfo", "sstDomain") {
+  sstDomain = Find<wxBookCtrlBase>("sstDomain");
+  pnlCopy = Find<wxWindow>("pnlCopy");
+  pnlGroups = Find<wxWindow>("pnlGroups");
+  pnlUsers = Find<wxWindow>("pnlUsers");
+  txtName = Find<UseTextBox>("txtName");
+  TxtDesc = Find<UseMultiLineTextBox>("TxtDesc");
+  cboStyle = Find<wxChoice>("cboStyle");
+  chkDisabled = Find<wxCheckBox>("chkDisabled");
+  ctGroup = Find<ctExplorer>("ctGroup");
+  cmdAdd = Find<wxButton>("cmdAdd");
+  cmdRemove = Find<wxButton>("cmdRemove");
+  copy_ = std::make_unique<DomainCopyPage>(
+      *this, [this] { RunEvent("ctSource_lvSelChange", [this] { InfoChanged(); }); });
+  users_ = std::make_unique<MemberList>("frmDomainInfo", *Find<ctExplorer>("ctUser"),
+                                        *Find<wxStaticText>("lblCount"), [this] { SetButtonStatus(); });
+  BindHandlers();
+  FollowLanguage();
+}
+
+frmDomainInfo::~frmDomainInfo() = default;
+
+void frmDomainInfo::BindHandlers() {
+  const auto changed = [this](const char* procedure) {
+    return [this, procedure](wxCommandEvent&) { RunEvent(procedure, [this] { InfoChanged(); }); };
+  };
+  txtName->Change = [this] { RunEvent("txtName_Change", [this] { InfoChanged(); }); };
+  TxtDesc->Change = [this] { RunEvent("TxtDesc_Change", [this] { InfoChanged(); }); };
+  cboStyle->Bind(wxEVT_CHOICE, changed("cboStyle_Click"));
+  chkDisabled->Bind(wxEVT_CHECKBOX, changed("chkDisabled_Click"));
+  cmdAdd->Bind(wxEVT_BUTTON,
+               [this](wxCommandEvent&) { RunEvent("cmdAdd_Click", [this] { users_->AddMembers(); }); });
+  cmdRemove->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+    RunEvent("cmdRemove_Click", [this] { users_->RemoveMembers(); });
+  });
+  ctGroup->lvItemDblClick = [this](std::int64_t row) {
+    if (row >= 0) RunEvent("ctGroup_lvItemDblClick", [this] { ctGroup_lvItemDblClick(); });
+  };
+}
+
+void frmDomainInfo::OpenWindow(std::shared_ptr<Corvane::KDomain> domain) try {
+  domain_ = std::move(domain);
+  users_->SetOwner(domain_);
+  users_->InitUserList();
+  PrepareDomainList(*ctGroup);
+  ReadRights();
+  ArrangePages();
+  LoadInfoOnForm();
+  GetInfo();
+  Open();
+} catch (...) {
+  mindloft::Raise("frmDomainInfo", "OpenWindow");
+}
+
+void frmDomainInfo::ArrangePages() {
+  const auto show = [this](wxWindow* page, bool wanted) {
+    const int place = sstDomain->FindPage(page);
+    if (wanted && place == wxNOT_FOUND) sstDomain->AddPage(page, page->GetLabel());
+    if (!wanted && place != wxNOT_FOUND) {
+      sstDomain->RemovePage(static_cast<std::size_t>(place));
+      page->Hide();
+    }
+  };
+  show(pnlCopy, domain_->IsNew());
+  show(pnlGroups, !domain_->IsNew());
+  show(pnlUsers, !domain_->IsNew());
+}
+
+void frmDomainInfo::ReadRights() {
+  if (domain_->IsNew()) {
+    mayChange_ = CheckSysPrivilege(CreateDomains);
+    return;
+  }
+  const auto context = GetApplication()->Server()->KDomains()->Item(domain_->Id());
+  mayChange_ = MayChangeDomain(context, ChangeDomain);
+  mayChangeUsers_ = MayChangeDomain(context, ManageDomainUsers);
+}
+
+void frmDomainInfo::LoadInfoOnForm() try {
+  PropertySheet::LoadInfoOnForm();
+  if (!domain_) return;
+  const LoadingGuard::Lock lock(loading_);
+  ShowStyles();
+  users_->LoadInfo();
+  for (int page = 0; page < static_cast<int>(sstDomain->GetPageCount()); ++page)
+    if (IsFilled(page) && sstDomain->GetPage(static_cast<std::size_t>(page)) != pnlUsers) FillPage(page);
+} catch (...) {
+  mindloft::Raise("frmDomainInfo", "LoadInfoOnForm");
+}
+
+void frmDomainInfo::ShowCaption() {
+  if (domain_) SetCaption(domain_->IsNew(), texts::kNewDomain, ToWx(domain_->Stored().name));
+}
+
+void frmDomainInfo::ShowStyles() {
+  const int chosen = cboStyle->GetSelection();
+  wxArrayString names;
+  names.Add(GetResource().GetString(texts::kNoStyle));
+  styles_ = {0};
+  const auto styles = GetApplication()->Server()->Styles();
+  for (const auto& style : styles->View().Page(0, styles->Count())) {
+    names.Add(ToWx(style.name));
+    styles_.push_back(style.id);
+  }
+  cboStyle->Set(names);
+  cboStyle->SetSelection(chosen < static_cast<int>(styles_.size()) ? chosen : wxNOT_FOUND);
+}
+
+void frmDomainInfo::GetInfo() try {
+  const LoadingGuard::Lock lock(loading_);
+  txtName->SetText(ToWx(domain_->Name()));
+  TxtDesc->SetText(ToWx(domain_->Description()));
+  const auto style = std::ranges::find(styles_, domain_->Edited().style);
+  // A style that is gone meanwhile is none.
+  cboStyle->SetSelection(style == styles_.end() ? 0 : static_cast<int>(style - styles_.begin()));
+  chkDisabled->SetValue(domain_->Disabled());
+} catch (...) {
+  mindloft::Raise("frmDomainInfo", "GetInfo");
+}
+
+void frmDomainInfo::FillPage(int page) {
+  const auto* shown = sstDomain->GetPage(static_cast<std::size_t>(page));
+  if (shown == pnlCopy) copy_->Display();
+  if (shown == pnlGroups) DisplayGroups();
+  if (shown == pnlUsers) users_->DisplayUsers();
+}
+
+void frmDomainInfo::DisplayGroups() {
+  ShowGroupList(*ctGroup, std::make_shared<GroupRows>(domain_->DGroups()->View()));
+}
+
+void frmDomainInfo::ctGroup_lvItemDblClick() {
+  const auto rows = ctGroup->SelectedListRows();
+  if (rows.size() != 1) return;
+  if (const auto group = domain_->DGroups()->Item(ToUtf8(rows.front().key))) {
+    frmDGroupProperty(this).OpenWindow(group);
+    GetRefresh()->Notify(ObjectKind::UserGroup, ObjectAction::Changed, group);
+  }
+  ctGroup->RefreshList();
+}
+
+void frmDomainInfo::SetButtonStatus() try {
+  txtName->SetLocked(!mayChange_);
+  TxtDesc->SetLocked(!mayChange_);
+  cboStyle->Enable(mayChange_);
+  chkDisabled->Enable(mayChange_);
+  copy_->SetButtonStatus(mayChange_);
+  cmdAdd->Enable(mayChangeUsers_);
+  cmdRemove->Enable(mayChangeUsers_);
+  cmdApply->Enable(HasChanges());
+} catch (...) {
+  mindloft::Raise("frmDomainInfo", "SetButtonStatus");
+}
+
+bool frmDomainInfo::HasChanges() const {
+  return infoChanged_ || !users_->Pending().Empty();
+}
+
+void frmDomainInfo::InfoChanged() {
+  infoChanged_ = true;
+  SetButtonStatus();
+}
+
+bool frmDomainInfo::RefuseBlankName() {
+  if (!GetStringHelper().IsBlank(txtName->Text())) return false;
+  SelectPage(0);
+  txtName->SetFocus();
+  GetMessenger().ShowMessage(texts::kNameIsBlank, {}, this);
+  return true;
+}
+
+void frmDomainInfo::PutInfo() {
+  domain_->SetName(ToUtf8(txtName->Text()));
+  domain_->SetDescription(ToUtf8(TxtDesc->Text()));
+  const int style = cboStyle->GetSelection();
+  if (style >= 0) domain_->SetStyleId(Corvane::IdText(styles_[static_cast<std::size_t>(style)]));
+  domain_->SetDisabled(chkDisabled->GetValue());
+  if (domain_->IsNew()) domain_->CopyFrom(copy_->Chosen());
+}
+
+bool frmDomainInfo::SaveInfo() try {
+  if (infoChanged_) {
+    PutInfo();
+    const auto caption = GetResource().GetFormatString(texts::kCreatingDomain, {txtName->Text()});
+    if (!RunLongChange(this, caption, kPatience,
+                       [this](const Progress& progress) { domain_->Update(progress); }))
+      return false;
+    infoChanged_ = false;
+    SetSaved();
+  }
+  if (users_->Changed()) {
+    users_->Save();
+    users_->ClearChanged();
+    SetSaved();
+  }
+  return true;
+} catch (...) {
+  mindloft::Raise("frmDomainInfo", "SaveInfo");
+}
+
+void frmDomainInfo::cmdApply_Click() {
+  if (RefuseBlankName() || !SaveInfo()) return;
+  ReadRights();
+  ArrangePages();
+  ShowCaption();
+  GetInfo();
+  FillAgain(1);
+  FillAgain(2);
+  SetButtonStatus();
+  cmdOK->SetFocus();
+}
+
+void frmDomainInfo::CmdOK_Click() {
+  // A new domain that nobody has given a name yet is no slip: OK asks for one.
+  if ((HasChanges() || domain_->IsNew()) && (RefuseBlankName() || !SaveInfo())) return;
+  CloseSheet(wxID_OK);
+}
+
+void frmDomainInfo::CmdCancel_Click() {
+  domain_->CancelEdit(true);
+  CloseSheet(wxID_CANCEL);
+}
+
+bool frmDomainInfo::MergeConflict(const Error& conflict) {
+  if (infoChanged_) PutInfo();
+  if (!MergeDomain(this, *domain_, conflict)) return false;
+  GetInfo();
+  SetButtonStatus();
+  return true;
+}
+
+}  // namespace mindloft

@@ -1,0 +1,70 @@
+#include "mainwindow/objects/UserCommands.h"
+
+#include <algorithm>
+
+#include "backend/corvane/Corvane.h"
+#include "backend/directory/Privileges.h"
+#include "backend/tessaline/GroupedNumber.h"
+#include "backend/tessaline/Services.h"
+#include "backend/tessaline/Text.h"
+#include "core/Refresh.h"
+#include "core/modShare.h"
+#include "editors/domains/LongChange.h"
+#include "editors/user/frmUserDetail.h"
+#include "mainwindow/objects/ObjectTexts.h"
+#include "mainwindow/objects/Questions.h"
+
+namespace mindloft {
+
+namespace {
+
+/// Those of the keys that are still there.
+std::vector<std::shared_ptr<Corvane::User>> FindUsers(const KindScope& scope,
+                                                      const std::vector<wxString>& keys) {
+  const auto all = scope.server->Users();
+  std::vector<std::shared_ptr<Corvane::User>> users;
+  users.reserve(keys.size());
+  for (const auto& key : keys)
+    if (auto user = all->Item(ToUtf8(key))) users.push_back(std::move(user));
+  return users;
+}
+
+}  // namespace
+
+void NewUser(const KindScope& scope, const std::vector<wxString>&) {
+  const auto user = scope.server->Users()->Add();
+  if (!user) return;
+  frmUserDetail(scope.owner).OpenWindow(user);
+  // The editor stores the user; one who was not saved has never been.
+  if (!user->IsNew()) GetRefresh()->Notify(ObjectKind::User, ObjectAction::Created, user);
+}
+
+void DeleteSelectedUsers(const KindScope& scope, const std::vector<wxString>& keys) {
+  const auto self = GetConnection()->CurrentUser();
+  if (self && std::ranges::find(keys, ToWx(self->Id())) != keys.end())
+    return Refuse(texts::kOwnAccount, texts::kInformationTitle, scope.owner);
+  if (!CheckSysPrivilege(DeleteUsers))
+    return Refuse(texts::kMayNotDeleteUsers, texts::kInformationTitle, scope.owner);
+  const auto users = FindUsers(scope, keys);
+  if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
+  std::vector<ObjectVersion> versions;
+  versions.reserve(users.size());
+  for (const auto& user : users) versions.push_back({user->Stored().id, user->Stored().version});
+  if (!ConfirmDeletion({texts::kDeleteUser, texts::kDeleteUsers}, users.size(), scope.owner)) return;
+
+  const auto count = GroupedNumber(static_cast<std::int64_t>(users.size()));
+  const auto caption = GetResource().GetFormatString(texts::kDeletingUsers, {count});
+  if (RunLongChange(scope.owner, caption, kPatience,
+                    [&](const Progress& progress) { scope.server->Users()->Delete(versions, progress); }))
+    // One for all: what shows users shows all of them anew.
+    GetRefresh()->Notify(ObjectKind::User, ObjectAction::Deleted, users.front());
+}
+
+void ShowUserProperties(const KindScope& scope, const std::vector<wxString>& keys) {
+  const auto users = FindUsers(scope, keys);
+  if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
+  frmUserDetail(scope.owner).OpenWindow(users.front());
+  GetRefresh()->Notify(ObjectKind::User, ObjectAction::Changed, users.front());
+}
+
+}  // namespace mindloft
