@@ -5,6 +5,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/login/LoginDialog.h"
+#include "editors/user/RegisterUserEditor.h"
 #include "mainwindow/CommandLineState.h"
 #include "mainwindow/frmSysAdmin.h"
 #include "platform/ui/Keyboard.h"
@@ -21,6 +22,7 @@ StartServices StartServices::Real(std::filesystem::path directoryFile,
     return dialog.Login(title);
   };
   services.showMainWindow = [] {
+    RegisterUserEditor();
     const bool startWithNode = !GetStringHelper().IsBlank(SavedCommandLine());
     // Destroys itself when it is closed.
     auto* window = new frmSysAdmin(GetConnection(), startWithNode);

@@ -21,4 +21,6 @@ scripts/sample.sh "$work/big" --users "$users"
 scripts/sample.sh "$work/hundred" --users 100
 # Both have their own administrator's password: the console-bench takes each one's settings.
 scripts/with-display.sh "$bin/console-bench" "$work/hundred" "$work/big" || failed=1
+scripts/sample.sh "$work/domains" --users "$users" --domains 1000
+scripts/with-display.sh "$bin/editors-bench" "$work/domains" || failed=1
 [ -n "$small" ] || exit "$failed"

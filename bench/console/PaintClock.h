@@ -25,6 +25,8 @@ class PaintClock {
 
   /// Whether a frame was painted since the clock began to watch.
   bool HasPainted() const { return lastPaint_ > 0; }
+  /// When the last frame was painted, on the clock of NowMs; 0 when none was.
+  double LastPaint() const { return lastPaint_; }
 
   /// Serves events until nothing was painted for that long.
   void Settle(double quietMs = 100);

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace mindloft {
+
+/// Makes frmUserDetail the editor that a `UserText` opens. Once, at the program's start.
+void RegisterUserEditor();
+
+}  // namespace mindloft
