@@ -7,8 +7,8 @@
 #include <algorithm>
 
 #include "backend/tessaline/Services.h"
+#include "core/forms/Images.h"
 #include "mainwindow/CommandSet.h"
-#include "mainwindow/Images.h"
 #include "mainwindow/LanguageMenu.h"
 #include "mainwindow/ObjectKindRegistry.h"
 

@@ -72,14 +72,28 @@ class EditorsBench : public wxApp {
       if (page.empty()) throw std::runtime_error("too few users");
       OpenOnce(server->Users()->Item(Corvane::IdText(page.front().id)), open, roles, domains);
     }
+    std::vector<double> ignored, everywhere;
+    const auto user = UserOfAllDomains();
+    for (int run = 0; run < kRuns; ++run) OpenOnce(user, ignored, ignored, everywhere);
     Line("user editor open", Median(open), 150);
     Line("its roles", Median(roles), 150);
     Line("its domains and groups", Median(domains), 150);
+    Line("the same of a user of all domains", Median(everywhere), 150);
     GetTopWindow()->Close(true);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     status_ = 1;
     GetTopWindow()->Close(true);
+  }
+
+  static std::shared_ptr<Corvane::User> UserOfAllDomains() {
+    const auto server = GetApplication()->Server();
+    const auto user = server->Users()->Item(Corvane::IdText(server->Users()->View().Page(400, 1).front().id));
+    std::string ids;
+    for (const auto& domain : server->KDomains()->View().Page(0, server->KDomains()->Count()))
+      ids += Corvane::IdText(domain.id) + ";";
+    user->ChangeDomains(ids, {});
+    return user;
   }
 
   void OpenOnce(const std::shared_ptr<Corvane::User>& user, std::vector<double>& open,
