@@ -86,7 +86,11 @@ void frmDomainInfo::OpenWindow(std::shared_ptr<Corvane::KDomain> domain) try {
 void frmDomainInfo::ArrangePages() {
   const auto show = [this](wxWindow* page, bool wanted) {
     const int place = sstDomain->FindPage(page);
-    if (wanted && place == wxNOT_FOUND) sstDomain->AddPage(page, page->GetLabel());
+    if (wanted && place == wxNOT_FOUND) {
+      // A hidden page would not come to the front.
+      page->Show();
+      sstDomain->AddPage(page, page->GetLabel());
+    }
     if (!wanted && place != wxNOT_FOUND) {
       sstDomain->RemovePage(static_cast<std::size_t>(place));
       page->Hide();
