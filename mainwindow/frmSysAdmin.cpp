@@ -21,7 +21,7 @@
 #include "mainwindow/DirectoryLists.h"
 #include "mainwindow/DirectoryTree.h"
 #include "mainwindow/DomainContexts.h"
-#include "mainwindow/Images.h"
+#include "controls/rows/DirectoryImages.h"
 #include "mainwindow/KindCommands.h"
 #include "mainwindow/LanguageMenu.h"
 #include "mainwindow/MainCommands.h"
@@ -86,6 +86,11 @@ void frmSysAdmin::Form_Load(bool startWithNode) try {
   });
   notifyLanguage_ = refresh->OnNotifyLanguage(
       [this] { Guarded("frmSysAdmin", "Refresh_NotifyLanguage", [&] { Refresh_NotifyLanguage(); }); });
+  // Whose members have changed is in no list, but what the user may do can depend on it.
+  refreshView_ = GetUtility().OnRefresh([this] {
+    Explorer().RefreshList();
+    UpdateCommands();
+  });
   pendingNodeIndex_ = -1;
   ConnectExplorer();
   ConnectCommands();
@@ -113,6 +118,7 @@ void frmSysAdmin::Form_Unload(wxCloseEvent& event) try {
   timer1_.Stop();
   notify_.reset();
   notifyLanguage_.reset();
+  refreshView_.reset();
   area_->Disconnect();
   busy_ = true;
   connection_->Logout();

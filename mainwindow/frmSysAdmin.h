@@ -128,6 +128,7 @@ class frmSysAdmin : public wxFrame {
   std::unique_ptr<MainStatusBar> statusBar_;
   std::unique_ptr<RefreshHandlers> refreshHandlers_;
   Refresh::Subscription notify_, notifyLanguage_;
+  std::shared_ptr<void> refreshView_;
   wxTimer timer1_;
   std::int32_t pendingNodeIndex_ = -1;
   wxString selectedNodeKey_;  ///< of the tree node whose list is shown

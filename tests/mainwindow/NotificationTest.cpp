@@ -57,6 +57,21 @@ class NotificationTest : public MainWindowTest {
   wxString selected_;
 };
 
+TEST_F(NotificationTest, ARefreshReadsTheListAnew) {
+  Open("plain");
+  Select({"59300", "59303"});
+  SelectRow("plain");
+  auto other = Other();
+  const auto user = other.Server()->Users()->Add();
+  user->SetName("a new one");
+  user->Update();
+  EXPECT_THAT(Names(), Not(Contains("a new one")));
+  GetUtility().Refresh();
+  Settle();
+  EXPECT_THAT(Names(), Contains("a new one"));
+  ExpectStillSelected();
+}
+
 TEST_F(NotificationTest, GroupsComeChangeAndGoInTheListOfTheirDomain) {
   Open();
   Select({"59300", "59301", DomainKey("Alpha"), "59304"});
