@@ -4,6 +4,7 @@
 #include <wx/tokenzr.h>
 
 #include <charconv>
+#include <map>
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
@@ -41,11 +42,23 @@ int TitleOf(MessageKind kind) {
   return titleInformation;
 }
 
+/// What the user calls a field of the back end; the field itself when it has no name.
+wxString FieldName(const std::string& field) {
+  static const std::map<std::string, int, std::less<>> names = {{"name", 59306},        {"fullName", 59307},
+                                                                {"description", 59308}, {"email", 59414},
+                                                                {"department", 61604},  {"telephone", 61605}};
+  const auto name = names.find(field);
+  return name == names.end() ? ToWx(field) : GetResource().GetString(name->second);
+}
+
 /// The numbered text with the error's parameters: what the user reads first.
 wxString UserText(const Error& error) {
   int number = static_cast<int>(error.Number());
   std::vector<wxString> parameters;
   for (const auto& parameter : error.Parameters()) parameters.push_back(ToWx(parameter));
+  const bool tellsField =
+      error.Number() == ErrorNumber::TextTooLong || error.Number() == ErrorNumber::TextInvalid;
+  if (tellsField && !parameters.empty()) parameters.front() = FieldName(error.Parameters().front());
   return GetResource().GetFormatString(
       IsApplicationError(error.Number()) ? number : systemErrorTexts + number, parameters);
 }

@@ -129,6 +129,21 @@ TEST_F(UserDetailTest, ChecksWarnButTheBackEndDecides) {
   EXPECT_EQ(Stored("anna").fullName, "");
 }
 
+TEST_F(UserDetailTest, ATextThatCannotBeStoredIsRefusedByTheFieldsName) {
+  Edit(Named("anna"), [this](User& user) {
+    user.Type("txtFName", L"\u202E");
+    modal_.ExpectForm("frmErrorManager", [](User& error) {
+      EXPECT_TRUE(error.Title().Contains("60045"));
+      EXPECT_TRUE(error.Read("lblHeadline").Contains("Full name"));
+      error.Click("cmdOK");
+    });
+    user.Click("cmdApply");
+    EXPECT_TRUE(user.IsEnabled("cmdApply"));
+    user.Click("cmdCancel");
+  });
+  EXPECT_EQ(Stored("anna").fullName, "Full anna");
+}
+
 TEST_F(UserDetailTest, ANewUserNeedsAName) {
   const auto user = Server().Users()->Add();
   Edit(user, [this](User& form) {

@@ -82,6 +82,22 @@ TEST_F(UserMembershipTest, ADomainTakesItsGroupsWithIt) {
   EXPECT_THAT(GroupsOf("anna"), ElementsAre("Authors"));
 }
 
+TEST_F(UserMembershipTest, WhoMayOnlyManageUsersChangesNoDomain) {
+  for (const auto& role : Server().Roles()->View().Page(0, 10))
+    if (role.name == "User managers") Named("bob")->ChangeRoles(Corvane::IdText(role.id), "");
+  LogIn("bob");
+  Edit(Named("anna"), [this](User& user) {
+    user.SelectPage("sstUser", 2);
+    modal_.ExpectMessage(60023, wxID_OK);
+    ClickCheck(user, "ctDomain", "Alpha");
+    modal_.ExpectMessage(60023, wxID_OK);
+    ClickCheck(user, "ctGroup", "Readers");
+    EXPECT_FALSE(user.IsEnabled("cmdApply"));
+    user.Click("cmdOK");
+  });
+  EXPECT_THAT(GroupsOf("anna"), ElementsAre("Readers"));
+}
+
 TEST_F(UserMembershipTest, TheGroupsStandByDomainAndCanBeSearched) {
   for (int i = 0; i < 300; ++i) {
     const auto group = Domain("Beta")->DGroups()->Add();
