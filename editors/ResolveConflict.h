@@ -25,6 +25,7 @@ bool ResolveConflict(wxWindow* parent, Object& object, const std::vector<RecordF
   ConflictChoice chosen = ConflictChoice::Mine;
   if (!merge.conflicts.empty() || !further.empty()) {
     std::vector<FieldDifference> differences;
+    differences.reserve(merge.conflicts.size() + further.size());
     for (const std::size_t i : merge.conflicts)
       differences.push_back(
           {GetResource().GetString(fields[i].label), fields[i].text(mine), fields[i].text(theirs)});
