@@ -7,6 +7,7 @@
 
 #include <wx/app.h>
 #include <wx/bookctrl.h>
+#include <wx/button.h>
 #include <wx/frame.h>
 
 #include <algorithm>
@@ -19,12 +20,15 @@
 
 #include "backend/tessaline/Services.h"
 #include "bench/console/PaintClock.h"
+#include "controls/explorer/ctExplorer.h"
+#include "editors/members/frmDGroupProperty.h"
 #include "editors/user/frmUserDetail.h"
 
 namespace mindloft::bench {
 namespace {
 
 constexpr int kRuns = 11;
+constexpr std::int64_t kMembers = 100'000;
 
 std::string PasswordIn(const std::string& folder) {
   std::ifstream log(folder + "/sample.log");
@@ -79,6 +83,7 @@ class EditorsBench : public wxApp {
     Line("its roles", Median(roles), 150);
     Line("its domains and groups", Median(domains), 150);
     Line("the same of a user of all domains", Median(everywhere), 150);
+    MeasureGroup();
     GetTopWindow()->Close(true);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
@@ -110,6 +115,58 @@ class EditorsBench : public wxApp {
       form.Close();
     });
     form.OpenWindow(user);
+  }
+
+  void MeasureGroup() {
+    const auto group = GroupOfMany();
+    std::printf("a group of %lld members\n", static_cast<long long>(group->Members()->Count()));
+    std::vector<double> open, members, apply;
+    for (int run = 0; run < kRuns; ++run) OpenGroupOnce(group, open, members, apply);
+    Line("group editor open", Median(open), 150);
+    Line("its members", Median(members), 150);
+    Line("one taken out and applied", Median(apply), 50);
+  }
+
+  static std::shared_ptr<Corvane::DGroup> GroupOfMany() {
+    const auto server = GetApplication()->Server();
+    const auto domain = server->KDomains()->Add();
+    domain->SetName("of many users " + std::to_string(server->KDomains()->Count()));
+    domain->Update();
+    std::string ids;
+    for (const auto& user : server->Users()->View().Page(0, kMembers)) ids += Corvane::IdText(user.id) + ";";
+    domain->ChangeUsers(ids, {});
+    const auto group = domain->DGroups()->Add();
+    group->SetName("of many members");
+    group->Update();
+    group->ChangeMembers(ids, {});
+    return group;
+  }
+
+  static void Press(const wxWindow& form, const char* name) {
+    auto* button = dynamic_cast<wxButton*>(wxWindow::FindWindowByName(name, &form));
+    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
+    event.SetEventObject(button);
+    button->HandleWindowEvent(event);
+  }
+
+  void OpenGroupOnce(const std::shared_ptr<Corvane::DGroup>& group, std::vector<double>& open,
+                     std::vector<double>& members, std::vector<double>& apply) {
+    const double begin = NowMs();
+    frmDGroupProperty form(GetTopWindow());
+    CallAfter([&] {
+      PaintClock clock(form);
+      clock.Settle();
+      open.push_back(clock.LastPaint() - begin);
+      auto* tabs = dynamic_cast<wxBookCtrlBase*>(wxWindow::FindWindowByName("sstGroup", &form));
+      members.push_back(clock.Measure([tabs] { tabs->SetSelection(1); }));
+      dynamic_cast<ctExplorer*>(wxWindow::FindWindowByName("ctUser", &form))->SelectListRow(0);
+      apply.push_back(clock.Measure([&form] {
+        Press(form, "cmdRemove");
+        Press(form, "cmdApply");
+      }));
+      form.Close();
+    });
+    form.OpenWindow(group);
   }
 
   void Line(const char* what, double value, double limit) {

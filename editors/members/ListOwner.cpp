@@ -29,6 +29,10 @@ struct Change {
 
 }  // namespace
 
+std::string IdOf(const ListOwner& owner) {
+  return std::visit([](const auto& object) { return object->Id(); }, owner);
+}
+
 std::shared_ptr<Corvane::Users> MembersOf(const ListOwner& owner) {
   return std::visit(Members(), owner);
 }

@@ -17,6 +17,8 @@ class Users;
 using ListOwner = std::variant<std::shared_ptr<Corvane::DGroup>, std::shared_ptr<Corvane::Role>,
                                std::shared_ptr<Corvane::KDomain>>;
 
+/// The owner's identifier; empty while it is new.
+std::string IdOf(const ListOwner& owner);
 /// The users in the owner's list as stored now.
 std::shared_ptr<Corvane::Users> MembersOf(const ListOwner& owner);
 /// Those whom the owner's operation of that name reports: who could be added.

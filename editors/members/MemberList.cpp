@@ -37,6 +37,7 @@ void MemberList::InitUserList() try { mindloft::InitUserList(ctUser_); } catch (
 
 void MemberList::DisplayUsers() try {
   const bool again = currentMembers_ != nullptr;
+  listedOwner_ = IdOf(owner_);
   currentMembers_ = std::make_shared<OverlaidUsers>(std::make_shared<UserRows>(MembersOf(owner_)->View()),
                                                     changedMembers_, ToBeAdded);
   if (again)
@@ -89,9 +90,13 @@ void MemberList::RemoveMembers() {
 
 void MemberList::MembersChanged() {
   changed_ = true;
+  ReloadMembers();
+  onChange_();
+}
+
+void MemberList::ReloadMembers() {
   currentMembers_->ItemsChanged();
   ctUser_.RefreshList();
-  onChange_();
 }
 
 bool MemberList::IfUserExist(const wxString& id) const try {
@@ -111,7 +116,11 @@ void MemberList::Save() {
   if (!changed_) return;
   ChangeMembers(owner_, ToUtf8(changedMembers_.Ids(ToBeAdded)), ToUtf8(changedMembers_.Ids(ToBeRemoved)));
   changedMembers_.Clear();
-  DisplayUsers();
+  // A group that was new has other members than the none it had.
+  if (IdOf(owner_) == listedOwner_)
+    ReloadMembers();
+  else
+    DisplayUsers();
   GetUtility().Refresh();
 }
 

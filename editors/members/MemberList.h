@@ -55,6 +55,7 @@ class MemberList {
 
  private:
   void MembersChanged();
+  void ReloadMembers();
   void ShowCounts();
 
   const char* objectName_;
@@ -64,6 +65,7 @@ class MemberList {
   ListOwner owner_;
   MemberItems changedMembers_;
   std::shared_ptr<OverlaidUsers> currentMembers_;
+  std::string listedOwner_;  ///< its identifier when `currentMembers_` were made
   bool changed_ = false;
 };
 
