@@ -19,7 +19,7 @@ bool IsFile(const std::filesystem::path& path) {
 std::filesystem::path FindSound(const std::string& name) {
   std::string slashed = name;
   std::replace(slashed.begin(), slashed.end(), '\\', '/');
-  const auto path = PathFromUtf8(slashed).lexically_normal();
+  auto path = PathFromUtf8(slashed).lexically_normal();
   if (path.empty() || path.is_absolute() || path.has_root_path()) return path;
   if (auto beside = ProgramFolder() / path; IsFile(beside)) return beside;
   if (*path.begin() == "resources") {
