@@ -6,6 +6,7 @@
 #include "backend/directory/SqliteDirectory.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
+#include "backend/tessaline/login/SecretText.h"
 #include "core/ErrorHandling.h"
 
 namespace mindloft {
@@ -15,14 +16,16 @@ using Tessaline::Setting;
 
 /// Nothing when it fails: who opens the directory the usual way is told why.
 std::shared_ptr<Directory> Prepare(const std::filesystem::path& file, const std::string& user,
-                                   const std::string& password) {
+                                   std::string password) {
+  std::shared_ptr<Directory> directory;
   try {
-    std::shared_ptr<Directory> directory = SqliteDirectory::Open(file);
+    directory = SqliteDirectory::Open(file);
     directory->PrepareLogin(user, password);
-    return directory;
   } catch (...) {
-    return nullptr;
+    directory.reset();
   }
+  WipeText(password);
+  return directory;
 }
 
 }  // namespace

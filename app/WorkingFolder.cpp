@@ -8,7 +8,6 @@ namespace mindloft {
 namespace {
 
 constexpr int kAskForFolder = 59805;
-constexpr int kInformationTitle = 59101;
 constexpr char kParent[] = "frmConfig", kName[] = "WorkingFolder", kAttribute[] = "Value";
 
 }  // namespace
@@ -16,7 +15,7 @@ constexpr char kParent[] = "frmConfig", kName[] = "WorkingFolder", kAttribute[] 
 wxString GetWorkingFolder(bool ask) try {
   const auto stored = UserConfigDescribe(kParent, kName, kAttribute, "AsString", wxString());
   if (const auto* folder = std::get_if<wxString>(&stored); folder && !folder->empty()) return *folder;
-  if (!ask || !GetMessenger().Ask(kAskForFolder, kInformationTitle, Tessaline::Buttons::YesNo,
+  if (!ask || !GetMessenger().Ask(kAskForFolder, Tessaline::kInformationTitle, Tessaline::Buttons::YesNo,
                                   Tessaline::MessageKind::Information)) {
     return {};
   }

@@ -15,8 +15,6 @@ namespace {
 
 using Tessaline::MessageKind;
 
-constexpr int titleInformation = 59101;
-constexpr int titleWarning = 59102;
 constexpr int titleError = 59103;
 /// System errors have their texts above this number: 61475 for number 75.
 constexpr int systemErrorTexts = 61400;
@@ -34,12 +32,12 @@ int TitleOf(MessageKind kind) {
     case MessageKind::Critical:
       return titleError;
     case MessageKind::Exclamation:
-      return titleWarning;
+      return Tessaline::kWarningTitle;
     case MessageKind::Question:
     case MessageKind::Information:
       break;
   }
-  return titleInformation;
+  return Tessaline::kInformationTitle;
 }
 
 /// What the user calls a field of the back end; the field itself when it has no name.

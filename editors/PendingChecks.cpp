@@ -1,7 +1,5 @@
 #include "editors/PendingChecks.h"
 
-#include "backend/corvane/Session.h"
-
 namespace mindloft {
 
 void PendingChecks::Clear() {
@@ -53,15 +51,6 @@ void PendingChecks::Commit() {
       saved_.erase(id);
   }
   changed_.clear();
-}
-
-std::string JoinIds(const std::vector<ObjectId>& ids) {
-  std::string list;
-  for (const ObjectId id : ids) {
-    if (!list.empty()) list += ';';
-    list += Corvane::IdText(id);
-  }
-  return list;
 }
 
 }  // namespace mindloft

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <map>
-#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -45,8 +44,5 @@ class PendingChecks {
   std::unordered_map<ObjectId, ObjectId> saved_;  ///< scope by identifier
   std::map<ObjectId, Change> changed_;
 };
-
-/// Identifiers joined by ";", as the back end takes them.
-std::string JoinIds(const std::vector<ObjectId>& ids);
 
 }  // namespace mindloft

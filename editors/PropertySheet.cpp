@@ -13,7 +13,6 @@ namespace mindloft {
 namespace {
 
 constexpr int kPropertiesOf = 59352;
-constexpr int kWarningTitle = 59102;
 constexpr int kLoseChanges = 61600;
 
 /// Never in less room than the contents need, as at first, when a page has no size yet: the desktop complains
@@ -149,8 +148,9 @@ void PropertySheet::Form_QueryUnload(wxCloseEvent& event) try {
     return;
   }
   const bool mayStay = event.CanVeto() && HasChanges();
-  if (mayStay && !GetMessenger().Ask(kLoseChanges, kWarningTitle, Tessaline::Buttons::YesNoDefaultNo,
-                                     Tessaline::MessageKind::Question, {}, this)) {
+  if (mayStay &&
+      !GetMessenger().Ask(kLoseChanges, Tessaline::kWarningTitle, Tessaline::Buttons::YesNoDefaultNo,
+                          Tessaline::MessageKind::Question, {}, this)) {
     event.Veto();
     return;
   }

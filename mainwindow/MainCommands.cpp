@@ -29,8 +29,8 @@ void SelectAll(frmSysAdmin& form) {
 
 void AskWorkingFolder(frmSysAdmin& form) {
   const wxString folder = GetApplicationServices().getWorkingFolder(true);
-  GetMessenger().Ask(folder.empty() ? texts::kNoWorkingFolder : texts::kWorkingFolderIs, texts::kMessageTitle,
-                     Buttons::OK, MessageKind::Information, {folder}, &form);
+  GetMessenger().Ask(folder.empty() ? texts::kNoWorkingFolder : texts::kWorkingFolderIs,
+                     Tessaline::kInformationTitle, Buttons::OK, MessageKind::Information, {folder}, &form);
 }
 
 void About(frmSysAdmin& form) {

@@ -1,5 +1,6 @@
 #include "backend/corvane/Corvane.h"
 #include "backend/directory/Privileges.h"
+#include "controls/rows/DirectoryTexts.h"
 #include "controls/rows/DomainRows.h"
 #include "controls/rows/GroupRows.h"
 #include "controls/rows/RoleRows.h"

@@ -3,18 +3,11 @@
 namespace mindloft::texts {
 
 // Numbers of the texts that the main window shows.
-inline constexpr int kColumnName = 59306;
-inline constexpr int kColumnFullName = 59307;
-inline constexpr int kColumnDescription = 59308;
-inline constexpr int kColumnState = 59309;
-inline constexpr int kColumnPrivileges = 59310;
-inline constexpr int kMessageTitle = 59101;
 inline constexpr int kLoggedInAs = 59662;
 
-inline constexpr int kCountFiltered = 61100;  ///< %1 rows shown of %2
-inline constexpr int kCount = 61102;          ///< %1 rows
-inline constexpr int kSelected = 61103;       ///< %1 rows selected
-inline constexpr int kSearchHint = 61104;
+inline constexpr int kCountFiltered = 61100;    ///< %1 rows shown of %2
+inline constexpr int kCount = 61102;            ///< %1 rows
+inline constexpr int kSelected = 61103;         ///< %1 rows selected
 inline constexpr int kWorkingFolderIs = 61107;  ///< %1 the folder
 inline constexpr int kNoWorkingFolder = 61108;
 inline constexpr int kAbout = 61109;  ///< %1 the version

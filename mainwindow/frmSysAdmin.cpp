@@ -11,6 +11,7 @@
 #include "controls/explorer/ExplorerLists.h"
 #include "controls/explorer/ctExplorer.h"
 #include "controls/rows/DirectoryImages.h"
+#include "controls/rows/DirectoryTexts.h"
 #include "core/ErrorHandling.h"
 #include "core/forms/Form.h"
 #include "core/modShare.h"

@@ -35,4 +35,13 @@ std::vector<ObjectId> IdsFromList(std::string_view list) {
   return ids;
 }
 
+std::string JoinIds(const std::vector<ObjectId>& ids) {
+  std::string list;
+  for (const ObjectId id : ids) {
+    if (!list.empty()) list += ';';
+    list += IdText(id);
+  }
+  return list;
+}
+
 }  // namespace mindloft::Corvane

@@ -12,6 +12,9 @@ namespace mindloft::Corvane {
 /// is no identifier, Overflow for one that is too large.
 std::vector<ObjectId> IdsFromList(std::string_view list);
 
+/// Identifiers joined by ";".
+std::string JoinIds(const std::vector<ObjectId>& ids);
+
 /// The identifiers of all objects of a view joined by ";", read page by page.
 template <typename Record>
 std::string IdListOf(const View<Record>& view) {

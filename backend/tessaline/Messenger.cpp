@@ -11,7 +11,6 @@ namespace {
 constexpr int textYes = 61441;
 constexpr int textNo = 61442;
 constexpr int textOK = 61443;
-constexpr int messageTitle = 59101;
 
 long IconStyle(MessageKind kind) {
   switch (kind) {
@@ -42,7 +41,7 @@ long ButtonStyle(Buttons buttons) {
 }  // namespace
 
 void Messenger::ShowMessage(int number, const std::vector<wxString>& parameters, wxWindow* parent) const {
-  Ask(number, messageTitle, Buttons::OK, MessageKind::Exclamation, parameters, parent);
+  Ask(number, kInformationTitle, Buttons::OK, MessageKind::Exclamation, parameters, parent);
 }
 
 bool Messenger::Ask(int textNumber, int titleNumber, Buttons buttons, MessageKind kind,

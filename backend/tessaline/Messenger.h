@@ -8,6 +8,10 @@ class wxWindow;
 
 namespace mindloft::Tessaline {
 
+/// The titles of message boxes, as numbers of their texts.
+inline constexpr int kInformationTitle = 59101;
+inline constexpr int kWarningTitle = 59102;
+
 /// The buttons of a message box and its default.
 enum class Buttons { OK, YesNo, YesNoDefaultNo };
 /// The values of the standard message-box style flags.

@@ -16,6 +16,11 @@ inline constexpr wxUniChar::value_type kFieldSeparator = 1;
 /// Joins the fields of one row.
 wxString JoinFields(const std::vector<wxString>& fields);
 
+/// The identifier of the object that such a row shows.
+inline ObjectId IdOf(const ExplorerRow& row) {
+  return Corvane::IdFromText(ToUtf8(row.key));
+}
+
 /// Rows of an explorer list over one collection of the directory. Nothing is kept here: every call reads the
 /// window of rows that it needs.
 template <typename Record>

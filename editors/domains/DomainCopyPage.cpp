@@ -8,6 +8,7 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryList.h"
 #include "controls/rows/DomainRows.h"
 #include "core/forms/Form.h"
 #include "editors/domains/DomainLists.h"
@@ -19,7 +20,7 @@ DomainCopyPage::DomainCopyPage(const FormDialog& form, std::function<void()> cha
   chkCopyGroups = FindControl<wxCheckBox>(form, "chkCopyGroups");
   chkCopyUsers = FindControl<wxCheckBox>(form, "chkCopyUsers");
   chkCopyMembers = FindControl<wxCheckBox>(form, "chkCopyMembers");
-  PrepareDomainList(*ctSource);
+  PrepareDirectoryList(*ctSource);
   for (auto* box : {chkCopyGroups, chkCopyUsers, chkCopyMembers}) {
     box->SetValue(true);
     box->Bind(wxEVT_CHECKBOX, [changed](wxCommandEvent&) { changed(); });

@@ -4,15 +4,12 @@
 
 #include "backend/corvane/Corvane.h"
 #include "backend/tessaline/Services.h"
+#include "controls/rows/DirectoryTexts.h"
 #include "editors/ResolveConflict.h"
 #include "editors/domains/DomainTexts.h"
 
 namespace mindloft {
 namespace {
-
-constexpr int kName = 59306;
-constexpr int kDescription = 59308;
-constexpr int kState = 59309;
 
 wxString StyleName(const ObjectId& style) {
   const auto found = GetApplication()->Server()->Styles()->Item(Corvane::IdText(style));
@@ -20,16 +17,17 @@ wxString StyleName(const ObjectId& style) {
 }
 
 wxString StateName(const bool& disabled) {
-  return GetResource().GetString(disabled ? texts::kDomainDisabled : texts::kDomainEnabled);
+  return GetResource().GetString(disabled ? texts::kStateDisabled : texts::kStateEnabled);
 }
 
 }  // namespace
 
 bool MergeDomain(wxWindow* parent, Corvane::KDomain& domain, const Error& conflict) {
   const std::vector<RecordField<DomainRecord>> fields = {
-      Field(kName, &DomainRecord::name), Field(kDescription, &DomainRecord::description),
+      Field(texts::kColumnName, &DomainRecord::name),
+      Field(texts::kColumnDescription, &DomainRecord::description),
       Field<DomainRecord, ObjectId>(texts::kFieldStyle, &DomainRecord::style, StyleName),
-      Field<DomainRecord, bool>(kState, &DomainRecord::disabled, StateName)};
+      Field<DomainRecord, bool>(texts::kColumnState, &DomainRecord::disabled, StateName)};
   return ResolveConflict(parent, domain, fields, conflict);
 }
 

@@ -8,8 +8,6 @@ namespace mindloft {
 
 class ctExplorer;
 
-/// Prepares an explorer that is to list groups or domains: images, break character.
-void PrepareDomainList(ctExplorer& list);
 /// Lists the rows under the columns name and description in the current language; what was selected or
 /// searched before stays so.
 void ShowGroupList(ctExplorer& list, std::shared_ptr<ExplorerRows> rows);

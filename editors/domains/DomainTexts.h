@@ -4,8 +4,6 @@ namespace mindloft::texts {
 
 // Numbers of the texts that the dialogs on knowledge domains show.
 inline constexpr int kNameIsBlank = 51102;
-inline constexpr int kDomainEnabled = 61105;
-inline constexpr int kDomainDisabled = 61106;
 inline constexpr int kNewDomain = 61720;
 inline constexpr int kNoStyle = 61721;
 inline constexpr int kCreatingDomain = 61722;  ///< %1 its name

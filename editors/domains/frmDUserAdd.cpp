@@ -4,9 +4,11 @@
 #include <wx/utils.h>
 
 #include "backend/corvane/Corvane.h"
+#include "backend/corvane/IdList.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryList.h"
 #include "controls/rows/UserRows.h"
 #include "core/ErrorHandling.h"
 #include "editors/domains/DomainTexts.h"
@@ -30,7 +32,7 @@ frmDUserAdd::frmDUserAdd(wxWindow* owner) : FormDialog(owner, "frmDUserAdd") {
 
 int frmDUserAdd::OpenWindow(std::shared_ptr<Corvane::KDomain> domain) try {
   domain_ = std::move(domain);
-  InitUserList(*ctUser);
+  PrepareDirectoryList(*ctUser);
   LoadInfoOnForm();
   DisplayUsers();
   CentreOnParent();
@@ -49,8 +51,7 @@ void frmDUserAdd::LoadInfoOnForm() try {
 
 void frmDUserAdd::Refresh_NotifyLanguage() try {
   LoadInfoOnForm();
-  ReloadUserList(*ctUser, Candidates());
-  SetButtonStatus();
+  DisplayUsers();
 } catch (...) {
   ShowError("frmDUserAdd", "Refresh_NotifyLanguage");
 }
@@ -72,8 +73,8 @@ void frmDUserAdd::CmdOK_Click() try {
   const wxBusyCursor busy;
   if (ctUser->SelectedListCount() == 0 || !MayTakeSelected(*ctUser)) return;
   const auto ids = SelectedItems();
-  ChangeDomainUsers(*domain_, ids, {});
-  firstAdded_ = domain_->DUsers()->Item(ids.substr(0, ids.find(';')));
+  ChangeDomainUsers(*domain_, Corvane::JoinIds(ids), {});
+  firstAdded_ = domain_->DUsers()->Item(Corvane::IdText(ids.front()));
   EndModal(wxID_OK);
 } catch (...) {
   ShowError("frmDUserAdd", "CmdOK_Click");
@@ -81,12 +82,9 @@ void frmDUserAdd::CmdOK_Click() try {
   ctUser->RefreshList();
 }
 
-std::string frmDUserAdd::SelectedItems() const {
-  std::string ids;
-  for (const auto& row : ctUser->SelectedListRows()) {
-    if (!ids.empty()) ids += ';';
-    ids += ToUtf8(row.key);
-  }
+std::vector<ObjectId> frmDUserAdd::SelectedItems() const {
+  std::vector<ObjectId> ids;
+  for (const auto& row : ctUser->SelectedListRows()) ids.push_back(IdOf(row));
   return ids;
 }
 

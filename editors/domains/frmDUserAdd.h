@@ -1,8 +1,9 @@
 #pragma once
 
 #include <memory>
-#include <string>
+#include <vector>
 
+#include "backend/directory/Records.h"
 #include "core/Refresh.h"
 #include "core/forms/Form.h"
 
@@ -36,7 +37,7 @@ class frmDUserAdd : public FormDialog {
   void SetButtonStatus();
   void CmdOK_Click();
   /// The identifiers of the selected users, joined by ";", in list order.
-  std::string SelectedItems() const;
+  std::vector<ObjectId> SelectedItems() const;
 
   std::shared_ptr<Corvane::KDomain> domain_;
   std::shared_ptr<Corvane::User> firstAdded_;

@@ -8,6 +8,7 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryList.h"
 #include "controls/rows/GroupRows.h"
 #include "controls/texts/UseTextBox.h"
 #include "core/ErrorHandling.h"
@@ -16,14 +17,6 @@
 #include "editors/domains/DomainTexts.h"
 
 namespace mindloft {
-namespace {
-
-ObjectId IdOf(const ExplorerRow& row) {
-  return Corvane::IdFromText(ToUtf8(row.key));
-}
-
-}  // namespace
-
 frmDUserProperty::frmDUserProperty(wxWindow* parent) : PropertySheet(parent, "frmDUserProperty", "") {
   txtName = Find<UseTextBox>("txtName");
   txtFName = Find<UseTextBox>("txtFName");
@@ -40,7 +33,7 @@ bool frmDUserProperty::OpenWindow(std::shared_ptr<Corvane::User> user,
   user_ = std::move(user);
   domain_ = std::move(domain);
   mayChange_ = MayChangeDomain(domain_, ManageDomainGroups);
-  PrepareDomainList(*ctGroup);
+  PrepareDirectoryList(*ctGroup);
   GetInfo();
   LoadInfoOnForm();
   Open();
@@ -81,7 +74,7 @@ void frmDUserProperty::ctGroup_lvCheckClick(const ExplorerRow& row) {
 
 void frmDUserProperty::SaveUserGroup() {
   if (!groups_.HasChanges()) return;
-  user_->ChangeGroups(JoinIds(groups_.Additions()), JoinIds(groups_.Removals()));
+  user_->ChangeGroups(Corvane::JoinIds(groups_.Additions()), Corvane::JoinIds(groups_.Removals()));
   groups_.Commit();
   SetSaved();
 }

@@ -4,7 +4,6 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
-#include <wx/stattext.h>
 
 #include <algorithm>
 
@@ -13,6 +12,7 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryList.h"
 #include "controls/rows/GroupRows.h"
 #include "controls/texts/UseMultiLineTextBox.h"
 #include "controls/texts/UseTextBox.h"
@@ -39,12 +39,9 @@ frmDomainInfo::frmDomainInfo(wxWindow* parent) : PropertySheet(parent, "frmDomai
   cboStyle = Find<wxChoice>("cboStyle");
   chkDisabled = Find<wxCheckBox>("chkDisabled");
   ctGroup = Find<ctExplorer>("ctGroup");
-  cmdAdd = Find<wxButton>("cmdAdd");
-  cmdRemove = Find<wxButton>("cmdRemove");
   copy_ = std::make_unique<DomainCopyPage>(
       *this, [this] { RunEvent("ctSource_lvSelChange", [this] { InfoChanged(); }); });
-  users_ = std::make_unique<MemberList>("frmDomainInfo", *Find<ctExplorer>("ctUser"),
-                                        *Find<wxStaticText>("lblCount"), [this] { SetButtonStatus(); });
+  users_ = std::make_unique<MemberList>(*this, "frmDomainInfo", [this] { SetButtonStatus(); });
   BindHandlers();
   FollowLanguage();
 }
@@ -59,11 +56,6 @@ void frmDomainInfo::BindHandlers() {
   TxtDesc->Change = [this] { RunEvent("TxtDesc_Change", [this] { InfoChanged(); }); };
   cboStyle->Bind(wxEVT_CHOICE, changed("cboStyle_Click"));
   chkDisabled->Bind(wxEVT_CHECKBOX, changed("chkDisabled_Click"));
-  cmdAdd->Bind(wxEVT_BUTTON,
-               [this](wxCommandEvent&) { RunEvent("cmdAdd_Click", [this] { users_->AddMembers(); }); });
-  cmdRemove->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
-    RunEvent("cmdRemove_Click", [this] { users_->RemoveMembers(); });
-  });
   ctGroup->lvItemDblClick = [this](std::int64_t row) {
     if (row >= 0) RunEvent("ctGroup_lvItemDblClick", [this] { ctGroup_lvItemDblClick(); });
   };
@@ -73,7 +65,7 @@ void frmDomainInfo::OpenWindow(std::shared_ptr<Corvane::KDomain> domain) try {
   domain_ = std::move(domain);
   users_->SetOwner(domain_);
   users_->InitUserList();
-  PrepareDomainList(*ctGroup);
+  PrepareDirectoryList(*ctGroup);
   ReadRights();
   ArrangePages();
   LoadInfoOnForm();
@@ -180,8 +172,7 @@ void frmDomainInfo::SetButtonStatus() try {
   cboStyle->Enable(mayChange_);
   chkDisabled->Enable(mayChange_);
   copy_->SetButtonStatus(mayChange_);
-  cmdAdd->Enable(mayChangeUsers_);
-  cmdRemove->Enable(mayChangeUsers_);
+  users_->Enable(mayChangeUsers_);
   cmdApply->Enable(HasChanges());
 } catch (...) {
   mindloft::Raise("frmDomainInfo", "SetButtonStatus");

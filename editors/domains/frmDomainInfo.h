@@ -73,8 +73,6 @@ class frmDomainInfo : public PropertySheet {
   wxChoice* cboStyle = nullptr;
   wxCheckBox* chkDisabled = nullptr;
   ctExplorer* ctGroup = nullptr;
-  wxButton* cmdAdd = nullptr;
-  wxButton* cmdRemove = nullptr;
 };
 
 }  // namespace mindloft

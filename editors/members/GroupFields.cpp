@@ -6,14 +6,12 @@
 #include "backend/corvane/DGroup.h"
 #include "backend/directory/Privileges.h"
 #include "backend/tessaline/Services.h"
+#include "controls/rows/DirectoryTexts.h"
 #include "editors/ResolveConflict.h"
 
 namespace mindloft {
 namespace {
 
-constexpr int kName = 59306;
-constexpr int kDescription = 59308;
-constexpr int kPrivileges = 59310;
 constexpr int kSeparator = 61659;
 constexpr std::pair<std::uint32_t, int> kPrivilegeTexts[] = {{ReadDocuments, 61652},
                                                              {WriteDocuments, 61653},
@@ -32,8 +30,9 @@ wxString InWords(const std::uint32_t& mask) {
 
 bool MergeGroup(wxWindow* parent, Corvane::DGroup& group, const Error& conflict) {
   const std::vector<RecordField<GroupRecord>> fields = {
-      Field(kName, &GroupRecord::name), Field(kDescription, &GroupRecord::description),
-      Field<GroupRecord, std::uint32_t>(kPrivileges, &GroupRecord::domainPrivileges, InWords)};
+      Field(texts::kColumnName, &GroupRecord::name),
+      Field(texts::kColumnDescription, &GroupRecord::description),
+      Field<GroupRecord, std::uint32_t>(texts::kColumnPrivileges, &GroupRecord::domainPrivileges, InWords)};
   return ResolveConflict(parent, group, fields, conflict);
 }
 

@@ -1,6 +1,6 @@
 #include "editors/members/MemberList.h"
 
-#include <wx/defs.h>
+#include <wx/button.h>
 #include <wx/stattext.h>
 #include <wx/utils.h>
 
@@ -10,19 +10,30 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryList.h"
 #include "controls/rows/UserRows.h"
 #include "core/ErrorHandling.h"
+#include "core/forms/Form.h"
 #include "editors/members/OverlaidUsers.h"
 #include "editors/members/UserList.h"
 #include "editors/members/frmListUser.h"
 
 namespace mindloft {
 
-MemberList::MemberList(const char* objectName, ctExplorer& ctUser, wxStaticText& lblCount,
-                       std::function<void()> changed)
-    : objectName_(objectName), ctUser_(ctUser), lblCount_(lblCount), onChange_(std::move(changed)) {
+MemberList::MemberList(const wxWindow& sheet, const char* objectName, std::function<void()> changed)
+    : objectName_(objectName),
+      ctUser_(*FindControl<ctExplorer>(sheet, "ctUser")),
+      lblCount_(*FindControl<wxStaticText>(sheet, "lblCount")),
+      cmdAdd_(*FindControl<wxButton>(sheet, "cmdAdd")),
+      cmdRemove_(*FindControl<wxButton>(sheet, "cmdRemove")),
+      onChange_(std::move(changed)) {
   ctUser_.lvSelChange = [this] { ShowCounts(); };
   ctUser_.lvCountChange = [this] { ShowCounts(); };
+  cmdAdd_.Bind(wxEVT_BUTTON,
+               [this](wxCommandEvent&) { Guarded(objectName_, "cmdAdd_Click", [this] { cmdAdd_Click(); }); });
+  cmdRemove_.Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+    Guarded(objectName_, "cmdRemove_Click", [this] { cmdRemove_Click(); });
+  });
 }
 
 MemberList::~MemberList() = default;
@@ -31,19 +42,15 @@ void MemberList::SetOwner(ListOwner owner) {
   owner_ = std::move(owner);
 }
 
-void MemberList::InitUserList() try { mindloft::InitUserList(ctUser_); } catch (...) {
+void MemberList::InitUserList() try { PrepareDirectoryList(ctUser_); } catch (...) {
   Raise(objectName_, "InitUserList");
 }
 
 void MemberList::DisplayUsers() try {
-  const bool again = currentMembers_ != nullptr;
   listedOwner_ = IdOf(owner_);
   currentMembers_ = std::make_shared<OverlaidUsers>(std::make_shared<UserRows>(MembersOf(owner_)->View()),
                                                     changedMembers_, ToBeAdded);
-  if (again)
-    ReloadUserList(ctUser_, currentMembers_);
-  else
-    ShowUserList(ctUser_, currentMembers_);
+  ShowUserList(ctUser_, currentMembers_);
   ShowCounts();
 } catch (...) {
   Raise(objectName_, "DisplayUsers");
@@ -51,11 +58,16 @@ void MemberList::DisplayUsers() try {
 
 void MemberList::LoadInfo() {
   if (!currentMembers_) return;
-  ReloadUserList(ctUser_, currentMembers_);
+  ShowUserList(ctUser_, currentMembers_);
   ShowCounts();
 }
 
-void MemberList::AddMembers() {
+void MemberList::Enable(bool enabled) {
+  cmdAdd_.Enable(enabled);
+  cmdRemove_.Enable(enabled);
+}
+
+void MemberList::cmdAdd_Click() {
   std::vector<ExplorerRow> picked;
   frmListUser(wxGetTopLevelParent(&ctUser_)).OpenWindow(owner_, UsersNotAccessible, changedMembers_, picked);
   if (picked.empty()) return;
@@ -73,7 +85,7 @@ void MemberList::AddMembers() {
   if (place >= 0) ctUser_.SelectListRow(place);
 }
 
-void MemberList::RemoveMembers() {
+void MemberList::cmdRemove_Click() {
   if (!MayTakeSelected(ctUser_)) return;
   const wxBusyCursor busy;
   std::vector<ExplorerRow> selected = SelectedItems();

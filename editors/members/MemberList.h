@@ -11,21 +11,23 @@
 #include "editors/members/ListOwner.h"
 #include "editors/members/MemberItems.h"
 
+class wxButton;
 class wxStaticText;
+class wxWindow;
 
 namespace mindloft {
 
 class OverlaidUsers;
 class ctExplorer;
 
-/// The members page that group and role editor share: `ctUser` lists the members as they will be, users are
-/// added with the picker and removed, and what is pending is stored as additions and removals only.
+/// The members page of a sheet: `ctUser` lists the members as they will be, `lblCount` counts them, `cmdAdd`
+/// adds users with the picker and `cmdRemove` removes the selected ones. What is pending is stored as
+/// additions and removals only.
 class MemberList {
  public:
-  /// The controls must outlive the list; `objectName` is the sheet's, for error reports. `changed` is called
-  /// when members were added or removed.
-  MemberList(const char* objectName, ctExplorer& ctUser, wxStaticText& lblCount,
-             std::function<void()> changed);
+  /// The controls are found in the sheet, which must outlive the list; `objectName` is the sheet's, for error
+  /// reports. `changed` is called when members were added or removed.
+  MemberList(const wxWindow& sheet, const char* objectName, std::function<void()> changed);
   ~MemberList();
 
   /// Whose members are listed; before anything else.
@@ -35,11 +37,9 @@ class MemberList {
   void DisplayUsers();
   /// Takes the captions in the current language.
   void LoadInfo();
+  /// Whether members can be added and removed.
+  void Enable(bool enabled);
 
-  /// Opens the picker and takes in the users picked there.
-  void AddMembers();
-  /// Takes out the selected users.
-  void RemoveMembers();
   /// Whether a user of that identifier is in the list already.
   bool IfUserExist(const wxString& id) const;
   /// The users selected in `ctUser`.
@@ -54,6 +54,8 @@ class MemberList {
   void ClearChanged() { changed_ = false; }
 
  private:
+  void cmdAdd_Click();
+  void cmdRemove_Click();
   void MembersChanged();
   void ReloadMembers();
   void ShowCounts();
@@ -61,6 +63,8 @@ class MemberList {
   const char* objectName_;
   ctExplorer& ctUser_;
   wxStaticText& lblCount_;
+  wxButton& cmdAdd_;
+  wxButton& cmdRemove_;
   std::function<void()> onChange_;
   ListOwner owner_;
   MemberItems changedMembers_;

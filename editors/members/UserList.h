@@ -15,12 +15,9 @@ class ctExplorer;
 /// half a second.
 inline constexpr std::int64_t kMostUsersAtOnce = 50'000;
 
-/// Prepares an explorer that is to list users: images, break character.
-void InitUserList(ctExplorer& ctUser);
-/// Lists the rows under the columns name, full name and description.
+/// Lists the rows under the columns name, full name and description in the current language. What was
+/// selected, sorted or searched in the list before stays so.
 void ShowUserList(ctExplorer& ctUser, std::shared_ptr<ExplorerRows> rows);
-/// Takes the columns' captions in the current language; rows, order, filter and selection stay.
-void ReloadUserList(ctExplorer& ctUser, std::shared_ptr<ExplorerRows> rows);
 /// Says how many users are listed and selected.
 void ShowUserCounts(wxStaticText& label, const ctExplorer& ctUser);
 /// Whether not too many users are selected for one command; otherwise tells the user so.

@@ -10,7 +10,6 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "backend/tessaline/login/WrappedLabel.h"
-#include "controls/explorer/ctExplorer.h"
 #include "controls/texts/UseTextBox.h"
 #include "core/ErrorHandling.h"
 #include "core/modShare.h"
@@ -51,15 +50,12 @@ frmDGroupProperty::frmDGroupProperty(wxWindow* parent)
   TxtDesc = Find<UseTextBox>("TxtDesc");
   lblStored = Find<wxStaticText>("lblStored");
   txtDescription = Find<wxStaticText>("txtDescription");
-  cmdAdd = Find<wxButton>("cmdAdd");
-  cmdRemove = Find<wxButton>("cmdRemove");
   privileges_ = {{ReadDocuments, Find<wxCheckBox>("chkRead")},
                  {WriteDocuments, Find<wxCheckBox>("chkWrite")},
                  {ManageDomainUsers, Find<wxCheckBox>("chkUsers")},
                  {ManageDomainGroups, Find<wxCheckBox>("chkGroups")},
                  {ChangeDomain, Find<wxCheckBox>("chkDomain")}};
-  members_ = std::make_unique<MemberList>("frmDGroupProperty", *Find<ctExplorer>("ctUser"),
-                                          *Find<wxStaticText>("lblCount"), [this] { SetButtonStatus(); });
+  members_ = std::make_unique<MemberList>(*this, "frmDGroupProperty", [this] { SetButtonStatus(); });
   BindHandlers();
   FollowLanguage();
 }
@@ -71,10 +67,6 @@ void frmDGroupProperty::BindHandlers() {
     privilege.second->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) {
       RunEvent("chkPrivilege_Click", [this] { InfoChanged(); });
     });
-  cmdAdd->Bind(wxEVT_BUTTON,
-               [this](wxCommandEvent&) { RunEvent("cmdAdd_Click", [this] { cmdAdd_Click(); }); });
-  cmdRemove->Bind(wxEVT_BUTTON,
-                  [this](wxCommandEvent&) { RunEvent("cmdRemove_Click", [this] { cmdRemove_Click(); }); });
 }
 
 void frmDGroupProperty::OpenWindow(std::shared_ptr<Corvane::DGroup> group) try {
@@ -156,8 +148,7 @@ void frmDGroupProperty::FillPage(int page) {
 }
 
 void frmDGroupProperty::SetButtonStatus() try {
-  cmdAdd->Enable(MayEdit());
-  cmdRemove->Enable(MayEdit());
+  members_->Enable(MayEdit());
   cmdApply->Enable(infoChanged_ || members_->Changed());
 } catch (...) {
   mindloft::Raise("frmDGroupProperty", "SetButtonStatus");
@@ -166,14 +157,6 @@ void frmDGroupProperty::SetButtonStatus() try {
 void frmDGroupProperty::InfoChanged() {
   infoChanged_ = true;
   SetButtonStatus();
-}
-
-void frmDGroupProperty::cmdAdd_Click() {
-  members_->AddMembers();
-}
-
-void frmDGroupProperty::cmdRemove_Click() {
-  members_->RemoveMembers();
 }
 
 bool frmDGroupProperty::NameIsBlank() const {

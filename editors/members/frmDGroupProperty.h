@@ -51,8 +51,6 @@ class frmDGroupProperty : public PropertySheet {
   void SaveInfo();
   void ClearFlags();
   void InfoChanged();
-  void cmdAdd_Click();
-  void cmdRemove_Click();
 
   std::shared_ptr<Corvane::DGroup> group_;
   std::unique_ptr<MemberList> members_;
@@ -64,8 +62,6 @@ class frmDGroupProperty : public PropertySheet {
   wxStaticText* lblStored = nullptr;
   wxStaticText* txtDescription = nullptr;
   std::vector<std::pair<std::uint32_t, wxCheckBox*>> privileges_;
-  wxButton* cmdAdd = nullptr;
-  wxButton* cmdRemove = nullptr;
 };
 
 }  // namespace mindloft

@@ -12,6 +12,7 @@
 #include "backend/tessaline/Services.h"
 #include "controls/RegisterControls.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryList.h"
 #include "controls/rows/UserRows.h"
 #include "core/ErrorHandling.h"
 #include "editors/members/ListedUsers.h"
@@ -54,7 +55,7 @@ void frmListUser::OpenWindow(const ListOwner& owner, int kind, const MemberItems
 void frmListUser::Form_Load() {
   LoadInfoOnForm();
   language_ = GetRefresh()->OnNotifyLanguage([this] { Refresh_NotifyLanguage(); });
-  InitUserList(*ctUser);
+  PrepareDirectoryList(*ctUser);
   DisplayUsers();
   if (ctUser->ListCount() > 0 && ctUser->SelectedListCount() == 0) ctUser->SelectListRow(0);
   ShowCounts();
@@ -65,7 +66,7 @@ void frmListUser::Form_Load() {
 void frmListUser::LoadInfoOnForm() try {
   FormDialog::LoadInfoOnForm();
   SetTitle(GetResource().GetString(kTitle));
-  if (rows_) ReloadUserList(*ctUser, rows_);
+  if (rows_) ShowUserList(*ctUser, rows_);
   ShowCounts();
 } catch (...) {
   mindloft::Raise("frmListUser", "LoadInfoOnForm");
@@ -87,6 +88,7 @@ void frmListUser::DisplayUsers() try {
     default:
       throw Error(ErrorNumber::TypeMismatch, "no list of users has the kind " + std::to_string(kind_));
   }
+  ctUser->ClearList();
   ShowUserList(*ctUser, rows_);
 } catch (...) {
   mindloft::Raise("frmListUser", "DisplayUsers");

@@ -1,14 +1,12 @@
 #include "editors/members/frmRoleProperty.h"
 
 #include <wx/button.h>
-#include <wx/stattext.h>
 
 #include <utility>
 
 #include "backend/corvane/Corvane.h"
 #include "backend/directory/Privileges.h"
 #include "backend/tessaline/Text.h"
-#include "controls/explorer/ctExplorer.h"
 #include "controls/texts/UseMultiLineTextBox.h"
 #include "controls/texts/UseTextBox.h"
 #include "core/ErrorHandling.h"
@@ -24,14 +22,7 @@ enum Page : int { General, Members };
 frmRoleProperty::frmRoleProperty(wxWindow* parent) : PropertySheet(parent, "frmRoleProperty", "sstRole") {
   txtName = Find<UseTextBox>("txtName");
   txtPrivilege = Find<UseMultiLineTextBox>("txtPrivilege");
-  cmdAdd = Find<wxButton>("cmdAdd");
-  cmdRemove = Find<wxButton>("cmdRemove");
-  members_ = std::make_unique<MemberList>("frmRoleProperty", *Find<ctExplorer>("ctUser"),
-                                          *Find<wxStaticText>("lblCount"), [this] { SetButtonStatus(); });
-  cmdAdd->Bind(wxEVT_BUTTON,
-               [this](wxCommandEvent&) { RunEvent("cmdAdd_Click", [this] { cmdAdd_Click(); }); });
-  cmdRemove->Bind(wxEVT_BUTTON,
-                  [this](wxCommandEvent&) { RunEvent("cmdRemove_Click", [this] { cmdRemove_Click(); }); });
+  members_ = std::make_unique<MemberList>(*this, "frmRoleProperty", [this] { SetButtonStatus(); });
   FollowLanguage();
 }
 
@@ -42,9 +33,7 @@ void frmRoleProperty::OpenWindow(std::shared_ptr<Corvane::Role> role) try {
   GetInfo();
   members_->InitUserList();
   // Who may not change the role's members can still look at them.
-  const bool mayChange = CheckSysPrivilege(ManageRoles);
-  cmdAdd->Enable(mayChange);
-  cmdRemove->Enable(mayChange);
+  members_->Enable(CheckSysPrivilege(ManageRoles));
   Open();
 } catch (...) {
   mindloft::Raise("frmRoleProperty", "OpenWindow");
@@ -75,14 +64,6 @@ void frmRoleProperty::FillPage(int page) {
 
 void frmRoleProperty::SetButtonStatus() try { cmdApply->Enable(members_->Changed()); } catch (...) {
   mindloft::Raise("frmRoleProperty", "SetButtonStatus");
-}
-
-void frmRoleProperty::cmdAdd_Click() {
-  members_->AddMembers();
-}
-
-void frmRoleProperty::cmdRemove_Click() {
-  members_->RemoveMembers();
 }
 
 void frmRoleProperty::SaveInfo() try {

@@ -34,16 +34,12 @@ class frmRoleProperty : public PropertySheet {
  private:
   void GetInfo();
   void SaveInfo();
-  void cmdAdd_Click();
-  void cmdRemove_Click();
 
   std::shared_ptr<Corvane::Role> role_;
   std::unique_ptr<MemberList> members_;
 
   UseTextBox* txtName = nullptr;
   UseMultiLineTextBox* txtPrivilege = nullptr;
-  wxButton* cmdAdd = nullptr;
-  wxButton* cmdRemove = nullptr;
 };
 
 }  // namespace mindloft

@@ -9,6 +9,7 @@
 #include "backend/corvane/Corvane.h"
 #include "controls/RegisterControls.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/rows/DirectoryList.h"
 #include "controls/rows/UserRows.h"
 #include "core/ErrorHandling.h"
 #include "core/forms/Images.h"
@@ -57,7 +58,7 @@ std::vector<wxString> frmSelectUnit::Display(const Users& users) try {
 void frmSelectUnit::Form_Load() {
   LoadInfoOnForm();
   language_ = GetRefresh()->OnNotifyLanguage([this] { Refresh_NotifyLanguage(); });
-  InitUserList(*ctNotPrivilege);
+  PrepareDirectoryList(*ctNotPrivilege);
   ctNotPrivilege->SetImages(StateImages());
   ShowAllUser();
   ctNotPrivilege->FocusList();
@@ -66,7 +67,7 @@ void frmSelectUnit::Form_Load() {
 
 void frmSelectUnit::LoadInfoOnForm() try {
   FormDialog::LoadInfoOnForm();
-  if (rows_) ReloadUserList(*ctNotPrivilege, rows_);
+  if (rows_) ShowUserList(*ctNotPrivilege, rows_);
   ShowUserCounts(*lblCount, *ctNotPrivilege);
 } catch (...) {
   mindloft::Raise("frmSelectUnit", "LoadInfoOnForm");
@@ -80,6 +81,7 @@ void frmSelectUnit::ShowAllUser() try {
     rows.back().image = lacks_(*user) ? MarkedUser : PlainUser;
   }
   rows_ = std::make_shared<ListedUsers>(std::move(rows));
+  ctNotPrivilege->ClearList();
   ShowUserList(*ctNotPrivilege, rows_);
   ShowUserCounts(*lblCount, *ctNotPrivilege);
 } catch (...) {

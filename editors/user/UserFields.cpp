@@ -1,18 +1,14 @@
 #include "editors/user/UserFields.h"
 
 #include "backend/tessaline/Services.h"
+#include "controls/rows/DirectoryTexts.h"
 #include "controls/texts/FramedTextBox.h"
 #include "core/forms/Form.h"
 
 namespace mindloft {
 namespace {
 
-constexpr int kName = 59306;
-constexpr int kFullName = 59307;
-constexpr int kDescription = 59308;
 constexpr int kEMail = 59414;
-constexpr int kEnabled = 61105;
-constexpr int kDisabled = 61106;
 constexpr int kDepartment = 61604;
 constexpr int kTelephone = 61605;
 constexpr int kAccount = 61606;
@@ -58,14 +54,14 @@ void UserFields::SetLocked(bool locked) {
 
 std::vector<RecordField<UserRecord>> UserFields::All() {
   const auto state = [](const bool& enabled) {
-    return GetResource().GetString(enabled ? kEnabled : kDisabled);
+    return GetResource().GetString(enabled ? texts::kStateEnabled : texts::kStateDisabled);
   };
-  return {Field(kName, &UserRecord::name),
-          Field(kFullName, &UserRecord::fullName),
+  return {Field(texts::kColumnName, &UserRecord::name),
+          Field(texts::kColumnFullName, &UserRecord::fullName),
           Field(kDepartment, &UserRecord::department),
           Field(kEMail, &UserRecord::email),
           Field(kTelephone, &UserRecord::telephone),
-          Field(kDescription, &UserRecord::description),
+          Field(texts::kColumnDescription, &UserRecord::description),
           Field<UserRecord, bool>(kAccount, &UserRecord::enabled, state)};
 }
 

@@ -5,9 +5,9 @@
 #include "backend/directory/Privileges.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
-#include "controls/explorer/ExplorerLists.h"
 #include "controls/explorer/ctExplorer.h"
-#include "controls/rows/DirectoryImages.h"
+#include "controls/rows/DirectoryList.h"
+#include "controls/rows/DirectoryTexts.h"
 #include "controls/rows/DomainRows.h"
 #include "controls/rows/RoleRows.h"
 #include "core/ErrorHandling.h"
@@ -17,27 +17,16 @@
 namespace mindloft {
 namespace {
 
-constexpr int kName = 59306;
-constexpr int kDescription = 59308;
-constexpr int kState = 59309;
-constexpr int kPrivileges = 59310;
-constexpr int kSearchHint = 61104;
+using namespace texts;
+
 constexpr int kDomain = 61615;
 constexpr int kAccessDenied = static_cast<int>(ErrorNumber::AccessDenied);
 
-struct ListColumn {
-  int caption;
-  int width;  ///< pixels at 96 dpi
-};
-
-void InitCheckList(ctExplorer& list, const std::vector<ListColumn>& columns, const PendingChecks& checks) {
-  SpecifyBreakChar(list);
-  list.SetImages(ExplorerImages());
-  list.SetSearchHint(GetResource().GetString(kSearchHint));
-  for (const ListColumn& column : columns)
-    AddColumn(list, GetResource().GetString(column.caption), column.width);
-  list.SetCheckBoxes(
-      [&checks](const ExplorerRow& row) { return checks.IsChecked(Corvane::IdFromText(ToUtf8(row.key))); });
+void InitCheckList(ctExplorer& list, const std::vector<DirectoryColumn>& columns,
+                   const PendingChecks& checks) {
+  PrepareDirectoryList(list);
+  AddDirectoryColumns(list, columns);
+  list.SetCheckBoxes([&checks](const ExplorerRow& row) { return checks.IsChecked(IdOf(row)); });
 }
 
 /// All records of a view, in one piece: a page at a time would sort a long one once for each page.
@@ -54,16 +43,14 @@ std::vector<ObjectId> IdsOf(const std::vector<Record>& records) {
   return ids;
 }
 
-ObjectId IdOf(const ExplorerRow& row) {
-  return Corvane::IdFromText(ToUtf8(row.key));
-}
-
 }  // namespace
 
 void frmUserDetail::InitLists() try {
-  mindloft::InitCheckList(*ctRole, {{kName, 190}, {kPrivileges, 240}}, roles_);
-  mindloft::InitCheckList(*ctDomain, {{kName, 160}, {kDescription, 200}, {kState, 90}}, domains_);
-  mindloft::InitCheckList(*ctGroup, {{kName, 160}, {kDomain, 150}, {kDescription, 150}}, changedGroups_);
+  mindloft::InitCheckList(*ctRole, {{kColumnName, 190}, {kColumnPrivileges, 240}}, roles_);
+  mindloft::InitCheckList(*ctDomain, {{kColumnName, 160}, {kColumnDescription, 200}, {kColumnState, 90}},
+                          domains_);
+  mindloft::InitCheckList(*ctGroup, {{kColumnName, 160}, {kDomain, 150}, {kColumnDescription, 150}},
+                          changedGroups_);
   ctRole->lvCheckClick = [this](const ExplorerRow& row) {
     RunEvent("ctRole_lvCheckClick", [&] { ctRole_lvCheckClick(row); });
   };

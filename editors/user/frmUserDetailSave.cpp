@@ -4,6 +4,7 @@
 #include <wx/checkbox.h>
 #include <wx/utils.h>
 
+#include "backend/corvane/IdList.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "backend/tessaline/login/SecretText.h"
@@ -108,22 +109,23 @@ void frmUserDetail::StoreUser() try {
 
 void frmUserDetail::SaveUserGroup() try {
   // A group takes only users who may use its domain: the domains to be added come first.
-  if (!changedGroups_.Additions().empty()) user_->ChangeDomains(JoinIds(domains_.Additions()), {});
-  user_->ChangeGroups(JoinIds(changedGroups_.Additions()), JoinIds(changedGroups_.Removals()));
+  if (!changedGroups_.Additions().empty()) user_->ChangeDomains(Corvane::JoinIds(domains_.Additions()), {});
+  user_->ChangeGroups(Corvane::JoinIds(changedGroups_.Additions()),
+                      Corvane::JoinIds(changedGroups_.Removals()));
   changedGroups_.Commit();
 } catch (...) {
   mindloft::Raise("frmUserDetail", "SaveUserGroup");
 }
 
 void frmUserDetail::SaveDomains() try {
-  user_->ChangeDomains(JoinIds(domains_.Additions()), JoinIds(domains_.Removals()));
+  user_->ChangeDomains(Corvane::JoinIds(domains_.Additions()), Corvane::JoinIds(domains_.Removals()));
   domains_.Commit();
 } catch (...) {
   mindloft::Raise("frmUserDetail", "SaveDomains");
 }
 
 void frmUserDetail::SaveRoles() try {
-  user_->ChangeRoles(JoinIds(roles_.Additions()), JoinIds(roles_.Removals()));
+  user_->ChangeRoles(Corvane::JoinIds(roles_.Additions()), Corvane::JoinIds(roles_.Removals()));
   roles_.Commit();
 } catch (...) {
   mindloft::Raise("frmUserDetail", "SaveRoles");

@@ -25,7 +25,7 @@ void NewDomain(const KindScope& scope, const std::vector<wxString>&) {
 
 void DeleteSelectedDomains(const KindScope& scope, const std::vector<wxString>& keys) {
   if (!CheckSysPrivilege(DeleteDomains))
-    return Refuse(texts::kMayNotDeleteDomains, texts::kWarningTitle, scope.owner);
+    return Refuse(texts::kMayNotDeleteDomains, Tessaline::kWarningTitle, scope.owner);
   if (!ConfirmDeletion({texts::kDeleteDomain, texts::kDeleteDomains}, keys.size(), scope.owner)) return;
   const auto domains = scope.server->KDomains();
   for (const auto& key : keys) {

@@ -8,6 +8,7 @@
 #include "editors/domains/DomainRights.h"
 #include "editors/domains/frmDUserAdd.h"
 #include "editors/domains/frmDUserProperty.h"
+#include "mainwindow/objects/FindObjects.h"
 #include "mainwindow/objects/ObjectTexts.h"
 #include "mainwindow/objects/Questions.h"
 
@@ -22,22 +23,15 @@ void AddDomainUsers(const KindScope& scope, const std::vector<wxString>&) {
 
 void RemoveDomainUsers(const KindScope& scope, const std::vector<wxString>& keys) {
   if (!MayChangeDomain(scope.domain, ManageDomainUsers))
-    return Refuse(texts::kMayNotRemoveDomainUsers, texts::kInformationTitle, scope.owner);
+    return Refuse(texts::kMayNotRemoveDomainUsers, Tessaline::kInformationTitle, scope.owner);
   if (!ConfirmDeletion({texts::kRemoveDomainUser, texts::kRemoveDomainUsers}, keys.size(), scope.owner))
     return;
   const auto all = scope.domain->KDomain()->DUsers();
-  std::vector<ObjectVersion> versions;
-  std::shared_ptr<Corvane::User> first;
-  for (const auto& key : keys) {
-    const auto user = all->Item(ToUtf8(key));
-    if (!user) continue;
-    if (!first) first = user;
-    versions.push_back({user->Stored().id, user->Stored().version});
-  }
-  if (!first) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
-  all->Delete(versions);
+  const auto users = FindObjects(*all, keys);
+  if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
+  all->Delete(VersionsOf(users));
   // One for all: the list of the domain's users is read anew.
-  GetRefresh()->Notify(ObjectKind::DomainUser, ObjectAction::Deleted, first);
+  GetRefresh()->Notify(ObjectKind::DomainUser, ObjectAction::Deleted, users.front());
 }
 
 void ShowDomainUserProperties(const KindScope& scope, const std::vector<wxString>& keys) {

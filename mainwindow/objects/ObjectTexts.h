@@ -3,8 +3,6 @@
 namespace mindloft::texts {
 
 // Numbers of the texts that the object commands show.
-inline constexpr int kInformationTitle = 59101;
-inline constexpr int kWarningTitle = 59102;
 inline constexpr int kDeletionTitle = 59312;
 
 inline constexpr int kDeleteDomain = 59311;

@@ -11,25 +11,11 @@
 #include "core/modShare.h"
 #include "editors/domains/LongChange.h"
 #include "editors/user/frmUserDetail.h"
+#include "mainwindow/objects/FindObjects.h"
 #include "mainwindow/objects/ObjectTexts.h"
 #include "mainwindow/objects/Questions.h"
 
 namespace mindloft {
-
-namespace {
-
-/// Those of the keys that are still there.
-std::vector<std::shared_ptr<Corvane::User>> FindUsers(const KindScope& scope,
-                                                      const std::vector<wxString>& keys) {
-  const auto all = scope.server->Users();
-  std::vector<std::shared_ptr<Corvane::User>> users;
-  users.reserve(keys.size());
-  for (const auto& key : keys)
-    if (auto user = all->Item(ToUtf8(key))) users.push_back(std::move(user));
-  return users;
-}
-
-}  // namespace
 
 void NewUser(const KindScope& scope, const std::vector<wxString>&) {
   const auto user = scope.server->Users()->Add();
@@ -42,14 +28,12 @@ void NewUser(const KindScope& scope, const std::vector<wxString>&) {
 void DeleteSelectedUsers(const KindScope& scope, const std::vector<wxString>& keys) {
   const auto self = GetConnection()->CurrentUser();
   if (self && std::ranges::find(keys, ToWx(self->Id())) != keys.end())
-    return Refuse(texts::kOwnAccount, texts::kInformationTitle, scope.owner);
+    return Refuse(texts::kOwnAccount, Tessaline::kInformationTitle, scope.owner);
   if (!CheckSysPrivilege(DeleteUsers))
-    return Refuse(texts::kMayNotDeleteUsers, texts::kInformationTitle, scope.owner);
-  const auto users = FindUsers(scope, keys);
+    return Refuse(texts::kMayNotDeleteUsers, Tessaline::kInformationTitle, scope.owner);
+  const auto users = FindObjects(*scope.server->Users(), keys);
   if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
-  std::vector<ObjectVersion> versions;
-  versions.reserve(users.size());
-  for (const auto& user : users) versions.push_back({user->Stored().id, user->Stored().version});
+  const auto versions = VersionsOf(users);
   if (!ConfirmDeletion({texts::kDeleteUser, texts::kDeleteUsers}, users.size(), scope.owner)) return;
 
   const auto count = GroupedNumber(static_cast<std::int64_t>(users.size()));
@@ -61,7 +45,7 @@ void DeleteSelectedUsers(const KindScope& scope, const std::vector<wxString>& ke
 }
 
 void ShowUserProperties(const KindScope& scope, const std::vector<wxString>& keys) {
-  const auto users = FindUsers(scope, keys);
+  const auto users = FindObjects(*scope.server->Users(), keys);
   if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
   frmUserDetail(scope.owner).OpenWindow(users.front());
   GetRefresh()->Notify(ObjectKind::User, ObjectAction::Changed, users.front());

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <wx/listctrl.h>
 
+#include "backend/corvane/IdList.h"
 #include "backend/tessaline/Text.h"
 #include "editors/PendingChecks.h"
 #include "tests/editors/user/UserDetailFixture.h"
@@ -22,7 +23,7 @@ TEST(PendingChecksTest, KeepsOnlyWhatDiffers) {
   EXPECT_THAT(checks.Additions(), ElementsAre(4));
   EXPECT_THAT(checks.Removals(), ElementsAre(1));
   EXPECT_THAT(checks.CheckedIn(10), UnorderedElementsAre(2, 4));
-  EXPECT_EQ(JoinIds({4, 12}), "4;12");
+  EXPECT_EQ(Corvane::JoinIds({4, 12}), "4;12");
   // Somebody else has added 4 and removed 2: what was wanted of 4 is done, and 1 is still to go.
   checks.SetSaved({1, 3, 4}, {10, 20, 10});
   EXPECT_THAT(checks.Additions(), IsEmpty());
