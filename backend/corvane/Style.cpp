@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "backend/corvane/ChangedField.h"
+#include "backend/corvane/StyleXml.h"
+#include "backend/errors/Error.h"
 
 namespace mindloft::Corvane {
 
@@ -11,6 +13,20 @@ Style::Style(std::shared_ptr<Session> session, StyleRecord stored)
 
 std::string Style::Id() const {
   return IdText(stored_.id);
+}
+
+StyleFormat Style::Format() const {
+  return ReadStyle(edited_.definition).format;
+}
+
+std::string Style::FormatProblem() const {
+  return ReadStyle(edited_.definition).problem;
+}
+
+void Style::SetFormat(const StyleFormat& format) {
+  const auto present = ReadStyle(edited_.definition);
+  if (present.problem.empty() && present.format == format) return;
+  edited_.definition = WriteStyle(format, edited_.definition);
 }
 
 void Style::Update() {
@@ -30,6 +46,21 @@ void Style::Update() {
 
 void Style::CancelEdit(bool cancel) {
   if (cancel) edited_ = stored_;
+}
+
+DomainView Style::Domains() const {
+  return DomainView(session_, Collection::StyleDomains, stored_.id);
+}
+
+StyleRecord Style::Current() const {
+  auto found = session_->Door().FindStyle(session_->id, stored_.id);
+  if (!found) throw Error(ErrorNumber::ObjectNotFound, "style " + Id());
+  return std::move(*found);
+}
+
+void Style::Rebase(StyleRecord stored, StyleRecord edited) {
+  stored_ = std::move(stored);
+  edited_ = std::move(edited);
 }
 
 }  // namespace mindloft::Corvane

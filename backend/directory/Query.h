@@ -23,7 +23,8 @@ enum class Collection : std::uint8_t {
   UserRoles,  ///< scope: user
   // Domains, read with DomainPage.
   Domains,
-  UserDomains,  ///< scope: user
+  UserDomains,   ///< scope: user
+  StyleDomains,  ///< scope: style; the domains that are shown in it
   // Groups, read with GroupPage.
   DomainGroups,  ///< scope: domain
   UserGroups,    ///< scope: user; in all domains

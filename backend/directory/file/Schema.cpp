@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "backend/directory/file/StartingStyles.h"
 #include "backend/directory/index/UserIndex.h"
 
 namespace mindloft {
@@ -105,7 +106,7 @@ void CreateFirstSchema(sqlite::Database& database) {
   UserIndex::CreateTables(database);
 }
 
-constexpr Migration kMigrations[] = {{1, CreateFirstSchema}};
+constexpr Migration kMigrations[] = {{1, CreateFirstSchema}, {2, RenewStartingStyles}};
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include "backend/directory/FoldedText.h"
 #include "backend/directory/Privileges.h"
+#include "backend/directory/file/StartingStyles.h"
 #include "backend/directory/index/UserIndex.h"
 #include "backend/directory/session/PasswordHash.h"
 #include "backend/directory/store/Journal.h"
@@ -23,30 +24,11 @@ constexpr BuiltInRole kRoles[] = {
     {"Auditors", ReadJournal},
 };
 
-struct StartingStyle {
-  const char *name, *definition;
-};
-
-constexpr StartingStyle kStyles[] = {
-    {"Plain", R"(<style font="Segoe UI" size="10" colour="#202020" background="#ffffff"/>)"},
-    {"Paper", R"(<style font="Georgia" size="11" colour="#332f28" background="#faf6ec"/>)"},
-    {"Slate", R"(<style font="Segoe UI" size="10" colour="#f2f4f7" background="#3b4754"/>)"},
-    {"Forest", R"(<style font="Verdana" size="10" colour="#173620" background="#eef6ee"/>)"},
-    {"Harbour", R"(<style font="Tahoma" size="10" colour="#0f2f4f" background="#e9f1f8"/>)"},
-    {"Large print", R"(<style font="Segoe UI" size="16" colour="#000000" background="#ffffff"/>)"},
-};
-
 ObjectId AddRole(sqlite::Database& database, const BuiltInRole& role) {
   database.Prepare("INSERT INTO role (version, name, name_key, built_in, privileges) VALUES (1, ?, ?, 1, ?)")
       ->BindAll(role.name, FoldedText(role.name), role.privileges)
       .Run();
   return database.LastInsertId();
-}
-
-void AddStyle(sqlite::Database& database, const StartingStyle& style) {
-  database.Prepare("INSERT INTO style (version, name, name_key, definition) VALUES (1, ?, ?, ?)")
-      ->BindAll(style.name, FoldedText(style.name), style.definition)
-      .Run();
 }
 
 ObjectId AddUser(sqlite::Database& database, const std::string& name, const std::string& password) {
@@ -71,7 +53,7 @@ void AddStartingContent(sqlite::Database& database, const std::string& name, con
     ObjectId id = AddRole(database, role);
     if (firstRole == 0) firstRole = id;
   }
-  for (const auto& style : kStyles) AddStyle(database, style);
+  AddStartingStyles(database);
   ObjectId user = AddUser(database, administrator, password);
   database.Prepare("INSERT INTO role_member (role, user) VALUES (?, ?)")->BindAll(firstRole, user).Run();
   JsonObject after;

@@ -26,6 +26,8 @@ const char* RowsSql(Collection collection) {
       return "SELECT d.id, d.name_key, d.description, d.disabled FROM domain_user m JOIN domain d ON d.id = "
              "m.domain "
              "WHERE m.user = ?1";
+    case Collection::StyleDomains:
+      return "SELECT id, name_key, description, disabled FROM domain WHERE style = ?1";
     case Collection::DomainGroups:
       return "SELECT id, name_key, description, 0 FROM grp WHERE domain = ?1";
     case Collection::UserGroups:
@@ -43,7 +45,9 @@ const char* RowsSql(Collection collection) {
 
 /// The order of a query, or by name where the rows lack its field.
 Order OrderOf(const Query& query) {
-  const bool domains = query.collection == Collection::Domains || query.collection == Collection::UserDomains;
+  const bool domains = query.collection == Collection::Domains ||
+                       query.collection == Collection::UserDomains ||
+                       query.collection == Collection::StyleDomains;
   const bool groups =
       query.collection == Collection::DomainGroups || query.collection == Collection::UserGroups;
   const bool roles = query.collection == Collection::Roles || query.collection == Collection::UserRoles;

@@ -31,6 +31,8 @@ const char* MembershipSql(Collection collection) {
       return "SELECT 1 FROM domain WHERE id = ?1 AND ?2 IS NOT NULL";
     case Collection::UserDomains:
       return "SELECT 1 FROM domain_user WHERE domain = ?1 AND user = ?2";
+    case Collection::StyleDomains:
+      return "SELECT 1 FROM domain WHERE id = ?1 AND style = ?2";
     case Collection::DomainGroups:
       return "SELECT 1 FROM grp WHERE id = ?1 AND domain = ?2";
     case Collection::UserGroups:
@@ -60,6 +62,7 @@ RecordKind KindOf(Collection collection) {
       return RecordKind::Role;
     case Collection::Domains:
     case Collection::UserDomains:
+    case Collection::StyleDomains:
       return RecordKind::Domain;
     case Collection::DomainGroups:
     case Collection::UserGroups:
