@@ -49,6 +49,11 @@ enum class ErrorNumber : std::int32_t {
   BuiltInObject = 60048,    ///< a built-in group or role; parameter: its name
   Cancelled = 60049,        ///< the user cancelled; nothing was changed
   ConfigurationDamaged = 60050,
+
+  // Formatted documents.
+  DocumentBroken = 60095,    ///< what was left of its text stands as plain text
+  DocumentTooLarge = 60096,  ///< more than a stored document may hold
+  DocumentReduced = 60097,   ///< what may not stand in a document was left out
 };
 
 /// Whether the number is one of the application's own (message numbers) rather than a system error.
