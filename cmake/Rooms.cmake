@@ -50,11 +50,12 @@ function(mindloft_embed target prefix)
   add_dependencies(${target} ${target}_${prefix}_embedded)
 endfunction()
 
-# mindloft_tests(ROOM [GUI] [FOLDERS folder...] [LINK target...]): the program ROOM_tests of this folder's sources and
+# mindloft_tests(ROOM [GUI] [PRINTER] [FOLDERS folder...] [LINK target...]): the program ROOM_tests of this folder's sources and
 # those of the folders below it that are named, run by ctest. Tests for one platform lie in windows/ or linux/ below it.
-# Each program is one test; a GUI one runs on a display of its own, so that no other test takes its focus.
+# Each program is one test; a GUI one runs on a display of its own, so that no other test takes its focus, a PRINTER one
+# with a print server of its own.
 function(mindloft_tests room)
-  cmake_parse_arguments(TESTS "GUI" "" "FOLDERS;LINK" ${ARGN})
+  cmake_parse_arguments(TESTS "GUI;PRINTER" "" "FOLDERS;LINK" ${ARGN})
   if(WIN32)
     list(APPEND TESTS_FOLDERS windows)
   else()
@@ -73,7 +74,7 @@ function(mindloft_tests room)
     target_link_libraries(${target} PRIVATE ${TESTS_LINK} test_support)
   endif()
   set(runner ${PROJECT_SOURCE_DIR}/scripts/run-test.sh)
-  add_test(NAME ${room} COMMAND ${runner} $<$<BOOL:${TESTS_GUI}>:--display> $<TARGET_FILE:${target}>
+  add_test(NAME ${room} COMMAND ${runner} $<$<BOOL:${TESTS_PRINTER}>:--printer> $<$<BOOL:${TESTS_GUI}>:--display> $<TARGET_FILE:${target}>
            COMMAND_EXPAND_LISTS)
   set_tests_properties(${room} PROPERTIES TIMEOUT 900 WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})
 endfunction()
