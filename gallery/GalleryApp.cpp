@@ -35,7 +35,7 @@ int GalleryApp::OnExit() {
 
 void GalleryApp::OnInitCmdLine(wxCmdLineParser& parser) {
   wxApp::OnInitCmdLine(parser);
-  parser.AddLongOption("language", "the code of the language to show (1033, 2052, 1025)",
+  parser.AddLongOption("language", "the code of the language to show: 1033, 2052, 1031, 1025, 1041 or 1055",
                        wxCMD_LINE_VAL_NUMBER);
 }
 

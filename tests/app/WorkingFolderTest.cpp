@@ -73,7 +73,7 @@ TEST_F(WorkingFolderTest, HelpOpensTheLanguagesFileOrSaysWhatIsMissing) {
     EXPECT_THAT(opened.back(), testing::EndsWith(std::to_string(language) + ".html"));
     EXPECT_TRUE(std::filesystem::exists(platform::PathFromUtf8(opened.back())));
   }
-  EXPECT_EQ(opened.size(), 3u);
+  EXPECT_EQ(opened.size(), 6u);
   works = false;
   modal.ExpectMessage(61246, wxID_OK);
   ShowHelp();

@@ -24,7 +24,7 @@ void ExpectInside(const wxWindow& window) {
 }
 
 TEST_F(GalleryTest, ShowsAllOnOnePageInEveryLanguage) {
-  for (const int language : {1033, 2052, 1025}) {
+  for (const int language : GetResource().Languages()) {
     ASSERT_TRUE(GetResource().SwitchLanguage(language));
     auto* form = new frmControls;
     form->Show();

@@ -142,9 +142,9 @@ TEST_F(ResourceTest, ANumberThatALanguageLacksIsEnglishAndOneThatNobodyHasShowsI
 
 TEST_F(ResourceTest, LanguageValues) {
   auto& resource = GetResource();
-  EXPECT_EQ(resource.Languages(), (std::vector{1033, 2052, 1025}));
-  EXPECT_EQ(resource.GetLanguageValue("Set_Value"), "1033;2052;1025");
-  EXPECT_EQ(resource.GetLanguageValue("Set_Display"), ToWx("English;简体中文;العربية"));
+  EXPECT_EQ(resource.Languages(), (std::vector{1033, 2052, 1031, 1025, 1041, 1055}));
+  EXPECT_EQ(resource.GetLanguageValue("Set_Value"), "1033;2052;1031;1025;1041;1055");
+  EXPECT_EQ(resource.GetLanguageValue("Set_Display"), ToWx("English;简体中文;Deutsch;العربية;日本語;Türkçe"));
   EXPECT_EQ(resource.GetLanguageValue("CurrentLangue"), "1033");
   EXPECT_EQ(resource.GetLanguageValue("2052"), "2052.reg");
   EXPECT_EQ(resource.GetLanguageValue("2053"), "");
