@@ -13,7 +13,7 @@ namespace {
 
 constexpr int englishCode = 1033;
 /// The languages that come with the program, in the order in which they are offered.
-constexpr std::array ownLanguages = {englishCode, 2052, 1025};
+constexpr std::array ownLanguages = {englishCode, 2052, 1031, 1025, 1041, 1055};
 constexpr const char* settingsKey = "Software\\Ordwell\\Mindloft\\Settings";
 
 const char* SettingName(Setting index) {
