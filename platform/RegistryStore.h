@@ -11,6 +11,8 @@
 
 namespace mindloft::platform {
 
+class RegistryImport;
+
 enum class RegistryRoot { CurrentUser, LocalMachine };
 
 /// A text (UTF-8) or a 32-bit number; values of other types are `OtherRegistryType`. A text with unexpanded
@@ -37,6 +39,10 @@ class RegistryStore {
                                                                     const std::string& key) const = 0;
   /// Removes a key with all below it; no error when there is none. A whole hive (an empty key) is refused.
   virtual void DeleteKey(RegistryRoot root, const std::string& key) = 0;
+  /// Begins to apply a registry file, with the system's registry editor where this is the system's registry
+  /// and with the program's own reader elsewhere. Throws as ImportWithOwnReader, and Error(Registry) when the
+  /// editor cannot be started. The editor itself tells of no failure: see IsImported.
+  virtual std::unique_ptr<RegistryImport> Import(const std::filesystem::path& file);
 };
 
 /// The system's registry; where there is none, the file `registry` in the user's configuration folder

@@ -4,6 +4,7 @@
 #include "backend/tessaline/Convert.h"
 #include "backend/tessaline/StringHelper.h"
 #include "backend/tessaline/Text.h"
+#include "platform/Paths.h"
 
 namespace mindloft::Tessaline {
 
@@ -61,6 +62,14 @@ std::int32_t Registry::GetValue(RegistryRoot root, const wxString& keyPath, cons
   } catch (const Error&) {
     return 0;  // a text that is no number counts as absent
   }
+}
+
+std::unique_ptr<platform::RegistryImport> Registry::Import(const wxString& file) {
+  return store_->Import(platform::PathFromUtf8(ToUtf8(file)));
+}
+
+bool Registry::IsImported(const wxString& file, platform::RegistryRoot root) const {
+  return platform::IsImported(platform::PathFromUtf8(ToUtf8(file)), root, *store_);
 }
 
 }  // namespace mindloft::Tessaline

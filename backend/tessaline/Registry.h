@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/RegistryImport.h"
 #include "platform/RegistryStore.h"
 
 namespace mindloft::Tessaline {
@@ -36,6 +37,10 @@ class Registry {
   /// A number, also one that is stored as text; 0 when absent or neither.
   std::int32_t GetValue(platform::RegistryRoot root, const wxString& keyPath,
                         const wxString& valueName) const;
+  /// Begins to apply a registry file; see platform::RegistryStore::Import.
+  std::unique_ptr<platform::RegistryImport> Import(const wxString& file);
+  /// Whether all values that the file sets in that hive are in the registry.
+  bool IsImported(const wxString& file, platform::RegistryRoot root) const;
 
  private:
   std::shared_ptr<platform::RegistryStore> store_;

@@ -4,8 +4,10 @@
 #include <cstring>
 
 #include "backend/errors/Error.h"
+#include "platform/RegistryImport.h"
 #include "platform/RegistryStore.h"
 #include "platform/registry/RegistryNames.h"
+#include "platform/windows/RegistryEditor.h"
 #include "platform/windows/Wide.h"
 
 namespace mindloft::platform {
@@ -137,6 +139,10 @@ class WindowsRegistry : public RegistryStore {
   void DeleteKey(RegistryRoot root, const std::string& key) override {
     auto status = RegDeleteTreeW(Hive(root), Wide(CheckedKeyToDelete(key)).c_str());
     if (status != ERROR_FILE_NOT_FOUND) Check(status, "deleting a key", key);
+  }
+
+  std::unique_ptr<RegistryImport> Import(const std::filesystem::path& file) override {
+    return StartRegistryEditor(file);
   }
 };
 
