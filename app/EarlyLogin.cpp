@@ -1,5 +1,6 @@
 #include "app/EarlyLogin.h"
 
+#include <functional>
 #include <utility>
 
 #include "app/AutoLogin.h"
@@ -16,9 +17,11 @@ using Tessaline::Setting;
 
 /// Nothing when it fails: who opens the directory the usual way is told why.
 std::shared_ptr<Directory> Prepare(const std::filesystem::path& file, const std::string& user,
-                                   std::string password) {
+                                   const std::function<std::string()>& readPassword) {
   std::shared_ptr<Directory> directory;
+  std::string password;
   try {
+    password = readPassword();
     directory = SqliteDirectory::Open(file);
     directory->PrepareLogin(user, password);
   } catch (...) {
@@ -36,7 +39,7 @@ EarlyLogin::EarlyLogin(std::filesystem::path directoryFile) : file_(std::move(di
     if (!IsAutoLoginEnabled()) return;
     prepared_ =
         std::async(std::launch::async, Prepare, file_, ToUtf8(resource.GetSetting(Setting::LoginUserName)),
-                   ToUtf8(resource.GetSetting(Setting::LoginPassword)));
+                   resource.LoginPassword().Reader());
   } catch (...) {
     // Without it the start is as right, only slower.
     ReportOnly("EarlyLogin", "EarlyLogin");

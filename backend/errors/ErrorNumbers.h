@@ -50,6 +50,8 @@ enum class ErrorNumber : std::int32_t {
   Cancelled = 60049,        ///< the user cancelled; nothing was changed
   ConfigurationDamaged = 60050,
 
+  SecretNotProtected = 60060,  ///< a password could not be kept for this user only
+
   // Formatted documents.
   DocumentBroken = 60095,    ///< what was left of its text stands as plain text
   DocumentTooLarge = 60096,  ///< more than a stored document may hold

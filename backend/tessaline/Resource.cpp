@@ -15,6 +15,9 @@ constexpr int englishCode = 1033;
 /// The languages that come with the program, in the order in which they are offered.
 constexpr std::array ownLanguages = {englishCode, 2052, 1031, 1025, 1041, 1055};
 constexpr const char* settingsKey = "Software\\Ordwell\\Mindloft\\Settings";
+/// The language configuration's own value, which the languages' registry files set.
+constexpr const char* languageKey = "Software\\Ordwell\\Mindloft\\Resource";
+constexpr const char* languageValue = "CurrentLangue";
 
 const char* SettingName(Setting index) {
   switch (index) {
@@ -83,16 +86,25 @@ wxString FillIn(const wxString& text, const std::vector<wxString>& parameters) {
 
 }  // namespace
 
-Resource::Resource(std::shared_ptr<Registry> registry, std::filesystem::path languageFolder)
+Resource::Resource(std::shared_ptr<Registry> registry, std::filesystem::path languageFolder,
+                   std::shared_ptr<platform::SecretStore> secrets)
     : registry_(std::move(registry)),
+      loginPassword_(std::make_unique<ProtectedSetting>(registry_, std::move(secrets), settingsKey,
+                                                        SettingName(Setting::LoginPassword))),
       languageFolder_(languageFolder.empty() ? platform::ResourceFolder() / "languages"
                                              : std::move(languageFolder)) {
-  int code = CodeOf(GetSetting(Setting::CurrentLanguage, true));
+  const int code = StoredLanguage();
   language_ = TryLoad(code ? code : englishCode);
   if (!language_) {
     English();
     language_ = english_;
   }
+}
+
+int Resource::StoredLanguage() const {
+  const int configured =
+      CodeOf(registry_->GetString(platform::RegistryRoot::CurrentUser, languageKey, languageValue));
+  return configured ? configured : CodeOf(GetSetting(Setting::CurrentLanguage, true));
 }
 
 std::filesystem::path Resource::FileOf(int code) const {
@@ -160,13 +172,16 @@ wxString Resource::GetLanguageValue(const wxString& key) const {
 
 wxString Resource::GetSetting(Setting index, bool machineDefault) const {
   const char* name = SettingName(index);
-  wxString text = registry_->GetString(platform::RegistryRoot::CurrentUser, settingsKey, name);
+  wxString text = index == Setting::LoginPassword
+                      ? loginPassword_->Read()
+                      : registry_->GetString(platform::RegistryRoot::CurrentUser, settingsKey, name);
   return text.empty() && machineDefault
              ? registry_->GetString(platform::RegistryRoot::LocalMachine, settingsKey, name)
              : text;
 }
 
 void Resource::SetSetting(Setting index, const wxString& text) {
+  if (index == Setting::LoginPassword) return loginPassword_->Write(text);
   registry_->SetString(platform::RegistryRoot::CurrentUser, settingsKey, SettingName(index), text);
 }
 
@@ -183,6 +198,16 @@ bool Resource::SwitchLanguage(int code) {
   if (!language) return false;
   language_ = std::move(language);
   return true;
+}
+
+bool Resource::CanSwitchTo(int code) const {
+  return code == englishCode || TryLoad(code);
+}
+
+void Resource::KeepLanguage() {
+  const wxString code = wxString::Format("%d", CurrentLanguage());
+  registry_->SetString(platform::RegistryRoot::CurrentUser, languageKey, languageValue, code);
+  SetSetting(Setting::CurrentLanguage, code);
 }
 
 bool Resource::IsRightToLeft() const {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "backend/tessaline/LanguageFile.h"
+#include "backend/tessaline/ProtectedSetting.h"
 #include "backend/tessaline/Registry.h"
 
 class wxWindow;
@@ -37,10 +38,11 @@ enum class Setting : int {
 /// Language texts and client settings.
 class Resource {
  public:
-  /// Takes the language of setting 14; English when that is not set or its file is missing or damaged
-  /// (LastProblem tells). The files lie in `languageFolder`; an empty one means the program's own. Only the
-  /// chosen language's file is read.
-  explicit Resource(std::shared_ptr<Registry> registry, std::filesystem::path languageFolder = {});
+  /// Takes the language of the language configuration, else of setting 14; English when neither is set or the
+  /// language's file is missing or damaged (LastProblem tells). The files lie in `languageFolder`; an empty
+  /// one means the program's own. Only the chosen language's file is read. `secrets` empty: the system's.
+  explicit Resource(std::shared_ptr<Registry> registry, std::filesystem::path languageFolder = {},
+                    std::shared_ptr<platform::SecretStore> secrets = {});
 
   /// The text of that number in the current language, else in English; "#59300" when there is none.
   wxString GetString(int number) const;
@@ -52,9 +54,12 @@ class Resource {
   wxString GetLanguageValue(const wxString& key) const;
   /// A client setting; empty when not set. They lie in the current user's registry under
   /// "Software\Ordwell\Mindloft\Settings", each named after its setting. `machineDefault` asks for the value
-  /// of the same name in the machine's hive where the user has none.
+  /// of the same name in the machine's hive where the user has none. The login password is kept for this user
+  /// only (ProtectedSetting).
   wxString GetSetting(Setting index, bool machineDefault = false) const;
   void SetSetting(Setting index, const wxString& text);
+  /// The login password, in the clear or protected, and what goes with it.
+  ProtectedSetting& LoginPassword() const { return *loginPassword_; }
   /// Sets every caption of the form in the current language: the form's title, and for each named window the
   /// caption that the language file gives for the form's name and the window's name (and its tool tip, where
   /// there is one).
@@ -67,9 +72,15 @@ class Resource {
 
   /// The code of the current language (1033, ...).
   int CurrentLanguage() const;
-  /// Switches the language of this process; the setting is not changed. False, and no change, when there is
-  /// none of that code or its file is damaged.
+  /// Switches the language of this process; what is stored is not changed. False, and no change, when there
+  /// is none of that code or its file is damaged.
   bool SwitchLanguage(int code);
+  /// Whether SwitchLanguage would switch to it.
+  bool CanSwitchTo(int code) const;
+  /// Stores the language of this process as the one of the next start, in the language configuration and in
+  /// setting 14.
+  void KeepLanguage();
+  const std::filesystem::path& LanguageFolder() const { return languageFolder_; }
   bool IsRightToLeft() const;
   /// Codes of all languages that can be used: English, simplified Chinese, Arabic, then others by code. The
   /// folder is read at the first call.
@@ -85,8 +96,10 @@ class Resource {
   std::shared_ptr<const LanguageFile> TryLoad(int code) const;
   std::filesystem::path FileOf(int code) const;
   const LanguageFile& English() const;
+  int StoredLanguage() const;
 
   std::shared_ptr<Registry> registry_;
+  std::unique_ptr<ProtectedSetting> loginPassword_;
   std::filesystem::path languageFolder_;
   std::shared_ptr<const LanguageFile> language_;
   mutable std::shared_ptr<const LanguageFile> english_;  ///< the built-in one, once it is needed

@@ -41,7 +41,8 @@ Service& Only() {
 Tessaline::Resource& GetResource() {
   auto& set = Set();
   if (!set.resource) {
-    set.resource = std::make_unique<Tessaline::Resource>(SharedRegistry(), set.overrides.languageFolder);
+    set.resource = std::make_unique<Tessaline::Resource>(SharedRegistry(), set.overrides.languageFolder,
+                                                         set.overrides.secrets);
     const auto& problem = set.resource->LastProblem();
     if (!problem.empty()) GetUtility().Log("language file not used: " + ToUtf8(problem));
   }

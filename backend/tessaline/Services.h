@@ -31,9 +31,10 @@ std::shared_ptr<Corvane::Connection> GetConnection();
 /// Gives the process other parts than the system's own, before first use (tests, bench), and drops every
 /// service.
 struct ServiceOverrides {
-  std::shared_ptr<platform::RegistryStore> registry;  ///< nothing: the system's
-  std::filesystem::path logFolder;                    ///< empty: the platform's
-  std::filesystem::path languageFolder;               ///< empty: "resources/languages" beside the program
+  std::shared_ptr<platform::RegistryStore> registry;    ///< nothing: the system's
+  std::filesystem::path logFolder;                      ///< empty: the platform's
+  std::filesystem::path languageFolder;                 ///< empty: "resources/languages" beside the program
+  std::shared_ptr<platform::SecretStore> secrets = {};  ///< nothing: the system's
 };
 void ResetServices(ServiceOverrides overrides = {});
 

@@ -82,7 +82,7 @@ MessageKind Utility::ErrorKind(ErrorNumber number) const {
     default:
       break;
   }
-  bool known = number >= ErrorNumber::DirectoryNotFound && number <= ErrorNumber::ConfigurationDamaged;
+  bool known = number >= ErrorNumber::DirectoryNotFound && number <= ErrorNumber::SecretNotProtected;
   return known ? MessageKind::Exclamation : MessageKind::Information;
 }
 

@@ -7,6 +7,7 @@ namespace mindloft::test {
 
 void PrivateServices::SetUp() {
   registry_ = platform::MemoryRegistry();
+  secrets_ = platform::FileSecretStore(folder_ / "secrets");
   RestartServices();
 }
 
@@ -15,7 +16,7 @@ void PrivateServices::TearDown() {
 }
 
 void PrivateServices::RestartServices() {
-  ResetServices({registry_, folder_ / "log", LanguageFolder()});
+  ResetServices({registry_, folder_ / "log", LanguageFolder(), secrets_});
 }
 
 std::filesystem::path PrivateServices::LanguageFolder() {

@@ -9,8 +9,8 @@
 
 namespace mindloft::test {
 
-/// Each test gets services of its own: an empty registry in memory, a log in a temporary folder, the
-/// languages of the source tree, in English.
+/// Each test gets services of its own: an empty registry in memory, secrets and a log in a temporary folder,
+/// the languages of the source tree, in English.
 class PrivateServices : public testing::Test {
  protected:
   void SetUp() override;
@@ -25,6 +25,7 @@ class PrivateServices : public testing::Test {
 
   TemporaryFolder folder_;
   std::shared_ptr<platform::RegistryStore> registry_;
+  std::shared_ptr<platform::SecretStore> secrets_;
 };
 
 }  // namespace mindloft::test
