@@ -2,6 +2,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "core/ErrorHandling.h"
+#include "core/LanguageImport.h"
 #include "core/Refresh.h"
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/Texts.h"
@@ -20,11 +21,15 @@ int LanguageMenu::LanguageOf(int itemId) {
 
 void LanguageMenu::Switch(int languageCode) try {
   if (languageCode == GetResource().CurrentLanguage()) return;
+  if (const wxString file = LanguageRegistryFile(languageCode); !file.empty()) {
+    ImportLanguage(languageCode, file);
+    return;
+  }
   if (!GetResource().SwitchLanguage(languageCode)) {
     GetMessenger().ShowMessage(texts::kLanguageFailed, {GetResource().LanguageName(languageCode)});
     return;
   }
-  GetResource().SetSetting(Tessaline::Setting::CurrentLanguage, wxString::Format("%d", languageCode));
+  GetResource().KeepLanguage();
   GetRefresh()->NotifyLanguage();
 } catch (...) {
   Raise("frmSysAdmin", "SwitchLanguage");
