@@ -13,6 +13,7 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "core/ErrorHandling.h"
+#include "core/LanguageImport.h"
 #include "core/forms/Form.h"
 #include "mainwindow/ApplicationServices.h"
 #include "platform/Paths.h"
@@ -105,6 +106,7 @@ int ConsoleApp::OnRun() try {
 int ConsoleApp::OnExit() {
   hidden_.reset();
   Guarded("ConsoleApp", "OnExit", [] {
+    EndLanguageImport();
     SetApplication(nullptr);
     ResetServices();
   });

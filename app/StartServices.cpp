@@ -5,6 +5,8 @@
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/login/LoginDialog.h"
+#include "backend/tessaline/login/SettingsForm.h"
+#include "config/frmConfiguration.h"
 #include "editors/user/RegisterUserEditor.h"
 #include "mainwindow/CommandLineState.h"
 #include "mainwindow/frmSysAdmin.h"
@@ -18,6 +20,8 @@ StartServices StartServices::Real(std::filesystem::path directoryFile,
   services.directories = Corvane::EmbeddedDirectoryProvider(std::move(open));
   services.isShiftDown = platform::IsShiftDown;
   services.login = [directoryFile](const wxString& title) {
+    // Nobody is locked out by the name of a server that is not there.
+    SetSettingsForm([](wxWindow* parent) { frmConfiguration(parent).ShowModal(); });
     Tessaline::LoginDialog dialog(directoryFile);
     return dialog.Login(title);
   };

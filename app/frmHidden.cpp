@@ -47,6 +47,8 @@ void frmHidden::ShowMainWindow() {
   services_.showMainWindow();
   mainWindowShown_ = true;
   GetUtility().Log("start: the main window is shown");
+  // Also where nobody logs in automatically, and after all that the user waits for.
+  GetResource().LoginPassword().TakeOver();
   if (handOverWaits_) services_.handOver();
   handOverWaits_ = false;
 }

@@ -4,6 +4,8 @@
 #include <wx/textctrl.h>
 
 #include "backend/tessaline/Services.h"
+#include "config/frmConfiguration.h"
+#include "config/frmURL.h"
 #include "controls/explorer/ctExplorer.h"
 #include "mainwindow/ApplicationServices.h"
 #include "mainwindow/CommandSet.h"
@@ -70,10 +72,14 @@ void AddViewCommands(CommandSet& commands, frmSysAdmin& form) {
 }
 
 void AddToolCommands(CommandSet& commands, frmSysAdmin& form) {
-  // These have no window yet: shown disabled.
+  // It has no window yet: shown disabled.
   commands.Add({.name = "mnuFilePrintSetup", .shortcut = {}, .icon = "print", .run = {}});
-  commands.Add({.name = "mnuToolsConfiguration", .shortcut = {}, .icon = "settings", .run = {}});
-  commands.Add({.name = "mnuToolsURL", .shortcut = {}, .icon = {}, .run = {}});
+  commands.Add({.name = "mnuToolsConfiguration", .shortcut = {}, .icon = "settings", .run = [&form] {
+                  frmConfiguration(&form).ShowModal();
+                }});
+  commands.Add({.name = "mnuToolsURL", .shortcut = {}, .icon = {}, .run = [&form] {
+                  frmURL(&form, frmURL::Purpose::KeepList).ShowModal();
+                }});
 
   commands.Add({.name = "mnuToolsWorkingFolder",
                 .shortcut = {},

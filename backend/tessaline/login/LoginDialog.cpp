@@ -15,7 +15,8 @@ LoginDialog::LoginDialog(std::filesystem::path directoryFile)
 bool LoginDialog::Login(const wxString& title, const wxString& userName, wxWindow* owner) try {
   auto& resource = GetResource();
   const int languageBefore = resource.CurrentLanguage();
-  LoginFields fields{title, userName, LoginTarget::ServerOfSettings(), directoryFile_};
+  const wxString server = LoginTarget::ServerOfSettings();
+  LoginFields fields{title, userName, server, server, directoryFile_};
   if (fields.userName.empty()) fields.userName = resource.GetSetting(Setting::LoginUserName);
 
   int result = frmLogin::kReopen;
@@ -25,7 +26,7 @@ bool LoginDialog::Login(const wxString& title, const wxString& userName, wxWindo
   }
   if (resource.CurrentLanguage() != languageBefore) {
     if (result == wxID_OK) {
-      resource.SetSetting(Setting::CurrentLanguage, wxString::Format("%d", resource.CurrentLanguage()));
+      resource.KeepLanguage();
     } else if (resource.SwitchLanguage(languageBefore)) {
       GetRefresh()->NotifyLanguage();
     }

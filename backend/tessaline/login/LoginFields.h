@@ -11,6 +11,7 @@ struct LoginFields {
   wxString title;
   wxString userName;
   wxString server;
+  wxString storedServer;  ///< what the settings say
   std::filesystem::path directoryFile;
 };
 

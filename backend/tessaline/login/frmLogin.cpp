@@ -15,6 +15,7 @@
 #include "backend/tessaline/login/LoginProblem.h"
 #include "backend/tessaline/login/LoginTarget.h"
 #include "backend/tessaline/login/SecretText.h"
+#include "backend/tessaline/login/SettingsForm.h"
 #include "backend/tessaline/login/frmCreateDirectory.h"
 #include "core/ErrorHandling.h"
 #include "core/Refresh.h"
@@ -34,7 +35,11 @@ constexpr int kTickMilliseconds = 200;
 }  // namespace
 
 frmLogin::frmLogin(wxWindow* owner, LoginFields& fields, LoginDelay& delay)
-    : FormDialog(owner, "frmLogin"), fields_(fields), delay_(delay), Timer1(this) {
+    : FormDialog(owner, "frmLogin"),
+      fields_(fields),
+      delay_(delay),
+      isMirrored_(GetResource().IsRightToLeft()),
+      Timer1(this) {
   txtWhere = Find<wxStaticText>("txtWhere");
   txtName = Find<wxTextCtrl>("txtName");
   txtPassword = Find<wxTextCtrl>("txtPassword");
@@ -50,6 +55,7 @@ frmLogin::frmLogin(wxWindow* owner, LoginFields& fields, LoginDelay& delay)
   txtServer->ChangeValue(fields_.server);
   LoadLanguages();
   ShowCapsLockRow(false);
+  Find<wxButton>("cmdSettings")->Show(static_cast<bool>(GetSettingsForm()));
   LoadInfoOnForm();
   BindHandlers();
   txtName->SelectAll();
@@ -60,7 +66,9 @@ frmLogin::frmLogin(wxWindow* owner, LoginFields& fields, LoginDelay& delay)
 void frmLogin::BindHandlers() {
   cmdOK->Bind(wxEVT_BUTTON, &frmLogin::cmdOK_Click, this);
   cmdCreate->Bind(wxEVT_BUTTON, &frmLogin::cmdCreate_Click, this);
+  Find<wxButton>("cmdSettings")->Bind(wxEVT_BUTTON, &frmLogin::cmdSettings_Click, this);
   cboLanguage->Bind(wxEVT_CHOICE, &frmLogin::cboLanguage_Click, this);
+  language_ = GetRefresh()->OnNotifyLanguage([this] { Refresh_NotifyLanguage(); });
   txtServer->Bind(wxEVT_TEXT, &frmLogin::txtServer_Change, this);
   for (auto* field : {txtName, txtPassword}) field->Bind(wxEVT_KEY_UP, &frmLogin::Form_KeyUp, this);
   Bind(wxEVT_ACTIVATE, &frmLogin::Form_Activate, this);
@@ -69,6 +77,7 @@ void frmLogin::BindHandlers() {
 
 void frmLogin::LoadLanguages() {
   auto& resource = GetResource();
+  cboLanguage->Clear();
   for (const int code : resource.Languages()) {
     cboLanguage->Append(resource.LanguageName(code));
     if (code == resource.CurrentLanguage()) cboLanguage->SetSelection(cboLanguage->GetCount() - 1);
@@ -156,9 +165,25 @@ void frmLogin::cmdCreate_Click(wxCommandEvent&) try {
   ShowError("frmLogin", "cmdCreate_Click");
 }
 
+void frmLogin::cmdSettings_Click(wxCommandEvent&) try {
+  isSettingsOpen_ = true;
+  GetSettingsForm()(this);
+  isSettingsOpen_ = false;
+  // The new target; who left the settings as they were keeps what has been typed.
+  const wxString server = LoginTarget::ServerOfSettings();
+  if (server != fields_.storedServer) txtServer->ChangeValue(server);
+  fields_.storedServer = server;
+  ShowMessage({});
+  SetButtonStatus();
+  ReopenIfMirrored();
+} catch (...) {
+  isSettingsOpen_ = false;
+  SetButtonStatus();
+  ShowError("frmLogin", "cmdSettings_Click");
+}
+
 void frmLogin::cboLanguage_Click(wxCommandEvent&) try {
   auto& resource = GetResource();
-  const bool rightToLeft = resource.IsRightToLeft();
   const auto languages = resource.Languages();
   const auto selected = static_cast<std::size_t>(cboLanguage->GetSelection());
   if (selected >= languages.size() || languages[selected] == resource.CurrentLanguage()) return;
@@ -166,14 +191,25 @@ void frmLogin::cboLanguage_Click(wxCommandEvent&) try {
     ShowMessage(resource.GetFormatString(kLanguageIsDamaged, {resource.LastProblem()}));
     return;
   }
-  fields_.userName = txtName->GetValue();
-  fields_.server = txtServer->GetValue();
   GetRefresh()->NotifyLanguage();
-  LoadInfoOnForm();
-  // A window takes its reading direction when it is made.
-  if (resource.IsRightToLeft() != rightToLeft) EndModal(kReopen);
 } catch (...) {
   ShowError("frmLogin", "cboLanguage_Click");
+}
+
+void frmLogin::Refresh_NotifyLanguage() try {
+  LoadLanguages();
+  LoadInfoOnForm();
+  if (!isSettingsOpen_) ReopenIfMirrored();
+} catch (...) {
+  ShowError("frmLogin", "Refresh_NotifyLanguage");
+}
+
+void frmLogin::ReopenIfMirrored() {
+  // A window takes its reading direction when it is made.
+  if (GetResource().IsRightToLeft() == isMirrored_) return;
+  fields_.userName = txtName->GetValue();
+  fields_.server = txtServer->GetValue();
+  EndModal(kReopen);
 }
 
 void frmLogin::txtServer_Change(wxCommandEvent&) try {

@@ -7,6 +7,7 @@
 #include "backend/errors/Error.h"
 #include "backend/tessaline/login/LoginDelay.h"
 #include "backend/tessaline/login/LoginFields.h"
+#include "core/Refresh.h"
 #include "core/forms/Form.h"
 
 class wxButton;
@@ -36,7 +37,11 @@ class frmLogin : public FormDialog {
   void Form_Activate(wxActivateEvent& event);
   void cmdOK_Click(wxCommandEvent& event);
   void cmdCreate_Click(wxCommandEvent& event);
+  void cmdSettings_Click(wxCommandEvent& event);
   void cboLanguage_Click(wxCommandEvent& event);
+  void Refresh_NotifyLanguage();
+  /// Ends the form for one in the present reading direction, if that is another.
+  void ReopenIfMirrored();
   void txtServer_Change(wxCommandEvent& event);
   void Form_KeyUp(wxKeyEvent& event);
   void Timer1_Timer(wxTimerEvent& event);
@@ -55,6 +60,9 @@ class frmLogin : public FormDialog {
 
   LoginFields& fields_;
   LoginDelay& delay_;
+  Refresh::Subscription language_;
+  bool isMirrored_;              ///< the reading direction that the form was made in
+  bool isSettingsOpen_ = false;  ///< the form of the connection settings is over this one
   wxTimer Timer1;
   wxStaticText* txtWhere = nullptr;
   wxTextCtrl* txtName = nullptr;
