@@ -1,0 +1,89 @@
+#include "controls/richtext/Document.h"
+
+#include <wx/mstream.h>
+#include <wx/richtext/richtextxml.h>
+
+#include "backend/corvane/document/DocumentHtml.h"
+#include "backend/corvane/document/SanitizeDocument.h"
+#include "backend/errors/Error.h"
+#include "controls/richtext/RichEditor.h"
+#include "core/ErrorHandling.h"
+
+namespace mindloft {
+namespace {
+
+using Corvane::DocumentState;
+using Corvane::SafeDocument;
+
+/// The component knows a format once its handler is registered, for the life of the process.
+void RegisterXml() {
+  if (!wxRichTextBuffer::FindHandler(wxRICHTEXT_TYPE_XML))
+    wxRichTextBuffer::AddHandler(new wxRichTextXMLHandler);
+}
+
+int MessageOf(DocumentState state) {
+  switch (state) {
+    case DocumentState::Broken:
+      return static_cast<int>(ErrorNumber::DocumentBroken);
+    case DocumentState::TooLarge:
+      return static_cast<int>(ErrorNumber::DocumentTooLarge);
+    case DocumentState::Reduced:
+      return static_cast<int>(ErrorNumber::DocumentReduced);
+    case DocumentState::Whole:
+    case DocumentState::PlainText:
+      break;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int Document::Load(std::string_view stored) try {
+  const SafeDocument safe = Corvane::SanitizeDocument(stored);
+  Show(safe.xml);
+  return MessageOf(safe.state);
+} catch (...) {
+  Raise("Document", "Load");
+}
+
+int Document::LoadHtml(std::string_view html) try {
+  const SafeDocument safe = Corvane::DocumentOfHtml(html);
+  Show(safe.xml);
+  return MessageOf(safe.state);
+} catch (...) {
+  Raise("Document", "LoadHtml");
+}
+
+void Document::Show(const std::string& xml) {
+  RegisterXml();
+  editor_->Replace([&] {
+    wxMemoryInputStream stream(xml.data(), xml.size());
+    wxRichTextBuffer& buffer = editor_->GetBuffer();
+    editor_->UseBaseStyle();
+    if (!buffer.LoadFile(stream, wxRICHTEXT_TYPE_XML))
+      throw Error(ErrorNumber::Unexpected, "the rich-text component refused a document");
+    buffer.Invalidate(wxRICHTEXT_ALL);
+  });
+}
+
+std::string Document::Save() const try {
+  RegisterXml();
+  wxMemoryOutputStream stream;
+  if (!editor_->GetBuffer().SaveFile(stream, wxRICHTEXT_TYPE_XML))
+    throw Error(ErrorNumber::Unexpected, "the rich-text component could not write its document");
+  std::string xml(stream.GetSize(), '\0');
+  stream.CopyTo(xml.data(), xml.size());
+  SafeDocument safe = Corvane::SanitizeDocument(xml);
+  if (safe.state == DocumentState::TooLarge) throw Error(ErrorNumber::DocumentTooLarge);
+  if (safe.state == DocumentState::Broken)
+    throw Error(ErrorNumber::Unexpected, "the rich-text component wrote a broken document");
+  return std::move(safe.xml);
+} catch (...) {
+  Raise("Document", "Save");
+}
+
+std::string Document::SaveHtml() const try { return Corvane::HtmlOfDocument(Save()); } catch (...) {
+  Raise("Document", "SaveHtml");
+}
+
+}  // namespace mindloft

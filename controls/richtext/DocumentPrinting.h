@@ -1,0 +1,29 @@
+#pragma once
+
+#include "controls/print/PageSettings.h"
+
+class wxRichTextBuffer;
+class wxWindow;
+
+namespace mindloft {
+
+/// Lets the user choose the page; false, and no change, when they cancelled. What was chosen is kept for the
+/// user.
+bool AskForPage(wxWindow& parent, PageSettings& page);
+
+/// Prints documents on the pages of these settings, each with its number below the text.
+class DocumentPrinting {
+ public:
+  DocumentPrinting(wxWindow& parent, const PageSettings& page) : parent_(parent), page_(page) {}
+
+  /// Asks for the printer and the pages, then prints; a failure is told.
+  void Print(const wxRichTextBuffer& document);
+  /// Shows the pages in a window of their own, from which they can be printed.
+  void Preview(const wxRichTextBuffer& document);
+
+ private:
+  wxWindow& parent_;
+  PageSettings page_;
+};
+
+}  // namespace mindloft

@@ -1,0 +1,226 @@
+#include "controls/richtext/RichEditor.h"
+
+#include <wx/clipbrd.h>
+#include <wx/dcclient.h>
+#include <wx/settings.h>
+
+#include <algorithm>
+
+#include "backend/tessaline/Services.h"
+#include "controls/richtext/GridLines.h"
+#include "controls/richtext/RichUnits.h"
+#include "core/ErrorHandling.h"
+
+namespace mindloft {
+namespace {
+
+/// Characters beyond which a new width is laid out for the visible part first, and for the rest when the user
+/// rests.
+constexpr long kLargeText = 20'000;
+constexpr int kSpaceAround = 5;
+
+}  // namespace
+
+RichEditor::RichEditor(wxWindow* parent, const wxString& name)
+    : wxRichTextCtrl(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                     wxRE_MULTILINE | wxWANTS_CHARS | wxBORDER_THEME, wxDefaultValidator, name) {
+  // Paper is white, whatever the theme.
+  SetBackgroundColour(*wxWHITE);
+  SetDelayedLayoutThreshold(kLargeText);
+  EnableImages(false);
+  SetMargins(kSpaceAround);
+  SetLayoutDirection(wxLayout_LeftToRight);
+  UseBaseStyle();
+  BindChanges();
+  Bind(wxEVT_CHAR, &RichEditor::OnTyped, this);
+}
+
+void RichEditor::UseBaseStyle() {
+  wxRichTextAttr style;
+  style.SetFont(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT));
+  style.SetTextColour(*wxBLACK);
+  style.SetAlignment(GetResource().IsRightToLeft() ? wxTEXT_ALIGNMENT_RIGHT : wxTEXT_ALIGNMENT_LEFT);
+  style.SetLineSpacing(wxTEXT_ATTR_LINE_SPACING_NORMAL);
+  style.SetParagraphSpacingAfter(0);
+  style.SetParagraphSpacingBefore(0);
+  SetBasicStyle(style);
+}
+
+void RichEditor::BindChanges() {
+  for (const auto& type : {wxEVT_RICHTEXT_CONTENT_INSERTED, wxEVT_RICHTEXT_CONTENT_DELETED,
+                           wxEVT_RICHTEXT_STYLE_CHANGED, wxEVT_RICHTEXT_PROPERTIES_CHANGED}) {
+    Bind(type, [this](wxRichTextEvent& event) {
+      event.Skip();
+      TellChange();
+    });
+  }
+}
+
+void RichEditor::TellChange() {
+  if (replacing_ > 0 || !changed) return;
+  changed();
+}
+
+void RichEditor::LeaveCells() {
+  SetFocusObject(&GetBuffer(), false);
+}
+
+void RichEditor::Replace(const std::function<void()>& load) {
+  ++replacing_;
+  Freeze();
+  LeaveCells();
+  SelectNone();
+  try {
+    load();
+  } catch (...) {
+    Thaw();
+    --replacing_;
+    throw;
+  }
+  GetCommandProcessor()->ClearCommands();
+  LeaveCells();
+  SetInsertionPoint(0);
+  Thaw();
+  DiscardEdits();
+  --replacing_;
+}
+
+void RichEditor::SetLayoutDirection(wxLayoutDirection) {
+  wxRichTextCtrl::SetLayoutDirection(wxLayout_LeftToRight);
+}
+
+void RichEditor::Undo() {
+  LeaveCells();
+  wxRichTextCtrl::Undo();
+  TellChange();
+}
+
+void RichEditor::Redo() {
+  LeaveCells();
+  wxRichTextCtrl::Redo();
+  TellChange();
+}
+
+void RichEditor::Clear() {
+  LeaveCells();
+  wxRichTextCtrl::Clear();
+}
+
+bool RichEditor::CanPaste() const {
+  if (!IsEditable()) return false;
+  const wxClipboardLocker lock;
+  return !lock ? false
+               : wxTheClipboard->IsSupported(wxDF_UNICODETEXT) || wxTheClipboard->IsSupported(wxDF_TEXT) ||
+                     wxTheClipboard->IsSupported(
+                         wxDataFormat(wxRichTextBufferDataObject::GetRichTextBufferFormatId()));
+}
+
+void RichEditor::Paste() {
+  if (CanPaste()) wxRichTextCtrl::Paste();
+}
+
+void RichEditor::SetPageWidth(int tenths) {
+  if (pageWidth_ == tenths) return;
+  pageWidth_ = tenths;
+  Invalidate();
+  LayoutContent();
+  Refresh();
+}
+
+void RichEditor::SetGridLines(bool shown) {
+  gridLines_ = shown;
+  Refresh();
+}
+
+void RichEditor::SetZoomFactor(double factor) {
+  SetScale(factor, true);
+}
+
+void RichEditor::DoLayoutBuffer(wxRichTextBuffer& buffer, wxDC& dc, wxRichTextDrawingContext& context,
+                                const wxRect& rect, const wxRect& parentRect, int flags) {
+  wxRect page = rect;
+  if (pageWidth_ > 0) page.width = std::min(page.width, TenthsToPixels(pageWidth_, *this));
+  wxRichTextCtrl::DoLayoutBuffer(buffer, dc, context, page, parentRect, flags);
+}
+
+void RichEditor::PaintAboveContent(wxDC& dc) {
+  if (gridLines_) DrawGridLines(*this, dc);
+}
+
+long RichEditor::SelectionStart() const {
+  long from = 0;
+  long to = 0;
+  GetSelection(&from, &to);
+  return from == to || from < 0 ? GetInsertionPoint() : from;
+}
+
+long RichEditor::SelectionLength() const {
+  long from = 0;
+  long to = 0;
+  GetSelection(&from, &to);
+  return from < 0 ? 0 : std::max(0L, to - from);
+}
+
+long RichEditor::EndPlace() const {
+  // The last place of a text is the mark that ends its last paragraph.
+  return std::max(0L, GetFocusObject()->GetOwnRange().GetEnd());
+}
+
+void RichEditor::SelectText(long start, long length) {
+  const long last = EndPlace();
+  start = std::clamp(start, 0L, last);
+  length = std::clamp(length, 0L, last - start);
+  SetInsertionPoint(start);
+  if (length > 0) {
+    SetSelection(start, start + length);
+    MoveCaret(start + length - 1);
+  } else {
+    SelectNone();
+  }
+}
+
+void RichEditor::PutSelection(const wxString& text) {
+  const long start = SelectionStart();
+  const long length = SelectionLength();
+  BeginBatchUndo(wxString());
+  // What comes in looks like what it replaces.
+  SetInsertionPoint(length > 0 ? start + 1 : start);
+  SetDefaultStyleToCursorStyle();
+  const wxRichTextAttr style = GetDefaultStyleEx();
+  if (length > 0) Delete(wxRichTextRange(start, start + length));
+  SetInsertionPoint(start);
+  if (!text.empty()) {
+    SetDefaultStyle(style);
+    WriteText(text);
+  }
+  EndBatchUndo();
+}
+
+void RichEditor::OnTyped(wxKeyEvent& event) {
+  event.Skip();
+  const int key = static_cast<int>(event.GetUnicodeKey());
+  const bool types = key >= WXK_SPACE && key != WXK_DELETE && !event.AltDown() &&
+                     (!event.ControlDown() || event.GetModifiers() == (wxMOD_CONTROL | wxMOD_ALT));
+  if (!types || !overwrite_ || !IsEditable() || HasSelection()) return;
+  const long place = GetInsertionPoint();
+  // The end of a paragraph is not overwritten.
+  const wxString next = GetFocusObject()->GetTextForRange(wxRichTextRange(place, place));
+  if (place < EndPlace() && next.length() == 1 && next[0] != '\n') SetSelection(place, place + 1);
+}
+
+RichEditor::Place RichEditor::CurrentPlace() const {
+  Place place{GetFocusObject(), GetCaretPosition(), 0, 0};
+  GetSelection(&place.start, &place.end);
+  return place;
+}
+
+void RichEditor::OnInternalIdle() {
+  wxRichTextCtrl::OnInternalIdle();
+  if (replacing_ > 0 || IsBeingDeleted()) return;
+  const Place present = CurrentPlace();
+  if (present == told_) return;
+  told_ = present;
+  if (moved) moved();
+}
+
+}  // namespace mindloft

@@ -1,0 +1,43 @@
+#include "controls/richtext/TextControl.h"
+
+#include "controls/buttons/RaiseEvent.h"
+
+namespace mindloft {
+
+const PropertyTable<TextControl>& TextControl::Properties() {
+  using C = TextControl;
+  static const PropertyTable<C> table{
+      InheritedProperty<C>("Text", &C::Text, &C::SetText, wxString()),
+      InheritedProperty<C>("Enable", &C::GetEnable, &C::SetEnable, true),
+      InheritedProperty<C>("ViewMode", &C::ViewMode, &C::SetViewMode, kNormalView),
+      InheritedProperty<C>("GridLines", &C::GridLines, &C::SetGridLines, true),
+      InheritedProperty<C>("Locked", &C::Locked, &C::SetLocked, false),
+      InheritedProperty<C>("StatueBarVisible", &C::StatueBarVisible, &C::SetStatueBarVisible, true),
+      InheritedProperty<C>("RulerBarVisible", &C::RulerBarVisible, &C::SetRulerBarVisible, true),
+  };
+  return table;
+}
+
+TextControl::TextControl(wxWindow* parent, const wxString& name) : TextControl() {
+  Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, name);
+}
+
+void TextControl::Create(wxWindow* parent, wxWindowID id, const wxPoint& position, const wxSize& size,
+                         long style, const wxString& name) {
+  CreateParts(parent, id, position, size, style, name);
+  ReadProperties({});
+}
+
+wxString TextControl::SelText() const {
+  return Editor().GetStringSelection();
+}
+
+void TextControl::SetSelText(const wxString& text) {
+  Run("SelText", [&] { Editor().PutSelection(text); });
+}
+
+void TextControl::OnMouseDown(int button, int shift, int x, int y) {
+  RaiseEvent(*this, ClassName(), "MouseDown", MouseDown, button, shift, x, y);
+}
+
+}  // namespace mindloft

@@ -1,0 +1,67 @@
+#include "controls/richtext/frmRichFont.h"
+
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/clrpicker.h>
+#include <wx/fontenum.h>
+#include <wx/spinctrl.h>
+
+#include "controls/RegisterControls.h"
+#include "core/ErrorHandling.h"
+
+namespace mindloft {
+
+frmRichFont::frmRichFont(wxWindow* parent) : FormDialog(WithControls(parent), "frmRichFont") {
+  cboFace = Find<wxChoice>("cboFace");
+  spnSize = Find<wxSpinCtrl>("spnSize");
+  cpkColour = Find<wxColourPickerCtrl>("cpkColour");
+  chkBold = Find<wxCheckBox>("chkBold");
+  chkItalic = Find<wxCheckBox>("chkItalic");
+  chkUnderline = Find<wxCheckBox>("chkUnderline");
+  chkStrike = Find<wxCheckBox>("chkStrike");
+  SetButtons("cmdOK", "cmdCancel");
+  wxArrayString faces = wxFontEnumerator::GetFacenames();
+  faces.Sort();
+  // Faces for vertical text begin with an at sign.
+  for (const wxString& face : faces) {
+    if (!face.StartsWith("@")) cboFace->Append(face);
+  }
+  LoadInfoOnForm();
+}
+
+bool frmRichFont::Ask(wxRichTextAttr& format) try {
+  ShowFormat(format);
+  if (ShowModal() != wxID_OK) return false;
+  format = Chosen();
+  return true;
+} catch (...) {
+  mindloft::Raise("frmRichFont", "Ask");
+}
+
+void frmRichFont::ShowFormat(const wxRichTextAttr& format) {
+  if (!cboFace->SetStringSelection(format.GetFontFaceName())) {
+    cboFace->Insert(format.GetFontFaceName(), 0);
+    cboFace->SetSelection(0);
+  }
+  spnSize->SetValue(format.GetFontSize());
+  cpkColour->SetColour(format.HasTextColour() ? format.GetTextColour() : *wxBLACK);
+  chkBold->SetValue(format.GetFontWeight() >= wxFONTWEIGHT_BOLD);
+  chkItalic->SetValue(format.GetFontStyle() == wxFONTSTYLE_ITALIC);
+  chkUnderline->SetValue(format.GetFontUnderlined());
+  chkStrike->SetValue((format.GetTextEffects() & wxTEXT_ATTR_EFFECT_STRIKETHROUGH) != 0);
+}
+
+wxRichTextAttr frmRichFont::Chosen() const {
+  wxRichTextAttr format;
+  format.SetFontFaceName(cboFace->GetStringSelection());
+  format.SetFontPointSize(spnSize->GetValue());
+  format.SetTextColour(cpkColour->GetColour());
+  format.SetFontWeight(chkBold->IsChecked() ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
+  format.SetFontStyle(chkItalic->IsChecked() ? wxFONTSTYLE_ITALIC : wxFONTSTYLE_NORMAL);
+  format.SetFontUnderlined(chkUnderline->IsChecked());
+  format.SetTextEffectFlags(wxTEXT_ATTR_EFFECT_STRIKETHROUGH);
+  format.SetTextEffects(chkStrike->IsChecked() ? wxTEXT_ATTR_EFFECT_STRIKETHROUGH : wxTEXT_ATTR_EFFECT_NONE);
+  return format;
+}
+
+}  // namespace mindloft

@@ -1,0 +1,46 @@
+#include "controls/richtext/frmRichTable.h"
+
+#include <wx/checkbox.h>
+#include <wx/spinctrl.h>
+
+#include <cmath>
+
+#include "controls/RegisterControls.h"
+#include "core/ErrorHandling.h"
+
+namespace mindloft {
+namespace {
+
+constexpr double kTenths = 10;
+
+}  // namespace
+
+frmRichTable::frmRichTable(wxWindow* parent) : FormDialog(WithControls(parent), "frmRichTable") {
+  spnWidth = Find<wxSpinCtrl>("spnWidth");
+  spnPadding = Find<wxSpinCtrlDouble>("spnPadding");
+  chkBorder = Find<wxCheckBox>("chkBorder");
+  SetButtons("cmdOK", "cmdCancel");
+  LoadInfoOnForm();
+}
+
+bool frmRichTable::Ask(TableLook& format) try {
+  ShowFormat(format);
+  if (ShowModal() != wxID_OK) return false;
+  format = Chosen();
+  return true;
+} catch (...) {
+  mindloft::Raise("frmRichTable", "Ask");
+}
+
+void frmRichTable::ShowFormat(const TableLook& format) {
+  spnWidth->SetValue(format.widthPerCent);
+  spnPadding->SetValue(format.paddingTenths / kTenths);
+  chkBorder->SetValue(format.hasBorder);
+}
+
+TableLook frmRichTable::Chosen() const {
+  return {spnWidth->GetValue(), static_cast<int>(std::lround(spnPadding->GetValue() * kTenths)),
+          chkBorder->IsChecked()};
+}
+
+}  // namespace mindloft
