@@ -1,5 +1,8 @@
 #include "controls/RegisterControls.h"
 
+#include <wx/xrc/xh_clrpicker.h>
+#include <wx/xrc/xh_spin.h>
+
 #include "controls/bag/BagXmlHandler.h"
 #include "controls/buttons/MyButton.h"
 #include "controls/buttons/UserLine.h"
@@ -7,6 +10,8 @@
 #include "controls/explorer/ExplorerXmlHandler.h"
 #include "controls/numbers/UserTextNumber.h"
 #include "controls/numbers/ucMaskedNumber.h"
+#include "controls/richtext/TXControl.h"
+#include "controls/richtext/TextControl.h"
 #include "controls/texts/UseMultiLineTextBox.h"
 #include "controls/texts/UseTextBox.h"
 #include "controls/texts/UserText.h"
@@ -25,6 +30,11 @@ void RegisterControls() {
     RegisterFormHandler(new BagXmlHandler<UseTextBox>("UseTextBox"));
     RegisterFormHandler(new BagXmlHandler<UseMultiLineTextBox>("UseMultiLineTextBox"));
     RegisterFormHandler(new BagXmlHandler<UserText>("UserText"));
+    RegisterFormHandler(new BagXmlHandler<TXControl>("TXControl"));
+    RegisterFormHandler(new BagXmlHandler<TextControl>("TextControl"));
+    // Of the toolkit's, for the dialogs of formats.
+    RegisterFormHandler(new wxColourPickerCtrlXmlHandler);
+    RegisterFormHandler(new wxSpinCtrlDoubleXmlHandler);
     return true;
   }();
   static_cast<void>(registered);
