@@ -14,6 +14,7 @@
 #include "controls/texts/UseTextBox.h"
 #include "core/ErrorHandling.h"
 #include "platform/Unicode.h"
+#include "platform/ui/ComboList.h"
 
 namespace mindloft {
 namespace {
@@ -37,6 +38,7 @@ void frmConfiguration::FindControls() {
   txtPort = Find<UserTextNumber>("txtPort");
   picWeb = Find<wxPanel>("picWeb");
   cmbAddress = Find<wxComboBox>("cmbAddress");
+  platform::DropDownAsList(*cmbAddress);
   txtFTPServerName = Find<UserTextNumber>("txtFTPServerName");
   chkSecurityMode = Find<wxCheckBox>("chkSecurityMode");
   ChkProx = Find<wxCheckBox>("ChkProx");

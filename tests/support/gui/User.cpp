@@ -47,8 +47,9 @@ wxWindow& TextPlace(wxWindow& control) {
 
 /// The event that a control sends when the user picks one of its entries.
 wxEventType PickEvent(const wxWindow& control) {
-  if (dynamic_cast<const wxChoice*>(&control)) return wxEVT_CHOICE;
-  return dynamic_cast<const wxComboBox*>(&control) ? wxEVT_COMBOBOX : wxEVT_LISTBOX;
+  // Some desktops' combo boxes are choices too.
+  if (dynamic_cast<const wxComboBox*>(&control)) return wxEVT_COMBOBOX;
+  return dynamic_cast<const wxChoice*>(&control) ? wxEVT_CHOICE : wxEVT_LISTBOX;
 }
 
 /// The button of a control that is made of one.
@@ -102,7 +103,8 @@ void User::Clear(const char* name) {
   if (!entry || !entry->IsEditable()) Refuse(name, "takes no text");
   control.SetFocus();
   entry->SelectAll();
-  if (!entry->IsEmpty() && !SendKey(control, WXK_DELETE)) entry->Clear();
+  // A combo box that is cleared loses its list as well.
+  if (!entry->IsEmpty() && !SendKey(control, WXK_DELETE)) entry->RemoveSelection();
 }
 
 void User::Click(const char* name) {
