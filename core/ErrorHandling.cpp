@@ -76,13 +76,18 @@ wxString MoreInformation(const wxString& userText, const Error& error) {
 void ShowInDialog(const Error& error) {
   const MessageKind kind = GetUtility().ErrorKind(error.Number());
   const wxString number = wxString::Format("%d", static_cast<int>(error.Number()));
-  const wxString userText = UserText(error);
+  const auto texts = [&] {
+    const wxString userText = UserText(error);
+    return frmErrorManager::Texts{GetResource().GetString(TitleOf(kind)) + " ('" + number + "')", userText,
+                                  MoreInformation(userText, error)};
+  };
+  const auto [caption, headline, moreInformation] = texts();
   frmErrorManager dialog;
-  dialog.SetHeadline(userText);
+  dialog.SetHeadline(headline);
+  dialog.SetTextSource(texts);
   int result = 0;
-  dialog.Dispaly(GetResource().GetString(TitleOf(kind)) + " ('" + number + "')",
-                 "Runtime error at " + ToWx(error.Source()), static_cast<int>(kind),
-                 MoreInformation(userText, error), IsSystemError(ToUtf8(number)), result);
+  dialog.Dispaly(caption, "Runtime error at " + ToWx(error.Source()), static_cast<int>(kind), moreInformation,
+                 IsSystemError(ToUtf8(number)), result);
 }
 
 /// Shows an error that has been reported already. A failure in here is logged and ends here: it must not come

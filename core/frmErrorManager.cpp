@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "backend/tessaline/Services.h"
 #include "core/ErrorHandling.h"
@@ -115,6 +116,23 @@ void frmErrorManager::BindHandlers() {
 void frmErrorManager::SetHeadline(const wxString& text) {
   headline_ = text;
   lblHeadline->Show(!text.empty());
+}
+
+void frmErrorManager::SetTextSource(std::function<Texts()> source) {
+  textSource_ = std::move(source);
+  language_ = GetRefresh()->OnNotifyLanguage([this] { Refresh_NotifyLanguage(); });
+}
+
+void frmErrorManager::Refresh_NotifyLanguage() try {
+  const Texts texts = textSource_();
+  LoadInfoOnForm();
+  SetTitle(texts.caption);
+  SetHeadline(texts.headline);
+  txtMoreInfomation->ChangeValue(texts.moreInformation);
+  SetMoreInformationCaption();
+  SetMessageHeight();
+} catch (...) {
+  ReportOnly(formName, "Refresh_NotifyLanguage");
 }
 
 void frmErrorManager::Dispaly(const wxString& caption, const wxString& message, int kind,

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+
+#include "core/Refresh.h"
 #include "core/forms/Form.h"
 
 class wxButton;
@@ -17,8 +20,18 @@ class frmErrorManager : public FormDialog {
  public:
   explicit frmErrorManager(wxWindow* parent = nullptr);
 
+  /// What the dialog says in the language of the user.
+  struct Texts {
+    wxString caption;
+    wxString headline;
+    wxString moreInformation;
+  };
+
   /// The text of the headline; without one the headline is not shown.
   void SetHeadline(const wxString& text);
+  /// Where the texts come from when the language is switched while the dialog is open; without that what
+  /// Dispaly was given stays.
+  void SetTextSource(std::function<Texts()> source);
   /// Shows the dialog modally. `kind` is a value of MessageKind; any other leaves the icon as it is. `flag`
   /// goes to SetPos. `result` is 0 until the dialog has been closed, then wxID_OK.
   void Dispaly(const wxString& caption, const wxString& message, int kind, const wxString& moreInformation,
@@ -28,13 +41,13 @@ class frmErrorManager : public FormDialog {
   /// Places the panel of details, hidden at first, and the dialog: a system error (`flag`) belongs to no form
   /// and stands in the middle of the screen, another one over the form at work.
   void SetPos(bool flag);
-  /// Captions are loaded once, when the dialog opens; a later switch of the language does not reach it.
   void LoadInfoOnForm() override;
 
   /// The picture that is shown: "Critical", "Question", "Exclamation" or "Information".
   const wxString& Picture() const { return picture_; }
 
  private:
+  void Refresh_NotifyLanguage();
   void cmdMoreInfomation_Click();
   void picMoreInfoMation_Resize();
   void txtMessage_GotFocus();
@@ -54,6 +67,8 @@ class frmErrorManager : public FormDialog {
   wxPanel* picMoreInfoMation;
   wxTextCtrl* txtMoreInfomation;
 
+  std::function<Texts()> textSource_;
+  Refresh::Subscription language_;
   wxString headline_;
   wxString picture_;
   bool moreShown_ = false;

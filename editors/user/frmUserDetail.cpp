@@ -57,12 +57,24 @@ int frmUserDetail::OpenWindow(std::shared_ptr<Corvane::User> user) try {
 }
 
 void frmUserDetail::Form_Load() try {
-  LoadInfoOnForm();
   InitLists();
+  LoadInfoOnForm();
   cmdResetPwd->Disable();
   GetInfo();
+  FollowLanguage();
 } catch (...) {
   mindloft::Raise("frmUserDetail", "Form_Load");
+}
+
+void frmUserDetail::LoadInfoOnForm() try {
+  PropertySheet::LoadInfoOnForm();
+  if (!user_) return;
+  const LoadingGuard::Lock lock(loading_);
+  LoadLists();
+  ShowLastLogin();
+  password_->ShowHints();
+} catch (...) {
+  mindloft::Raise("frmUserDetail", "LoadInfoOnForm");
 }
 
 void frmUserDetail::ShowCaption() {
@@ -73,11 +85,15 @@ void frmUserDetail::GetInfo() try {
   const LoadingGuard::Lock lock(loading_);
   fields_->Get(*user_);
   chkEnabled->SetValue(user_->Enabled());
+  ShowLastLogin();
+} catch (...) {
+  mindloft::Raise("frmUserDetail", "GetInfo");
+}
+
+void frmUserDetail::ShowLastLogin() {
   const Timestamp last = user_->LastLogin();
   txtLastLogin->SetLabelText(last == 0 ? GetResource().GetString(kNeverLoggedIn)
                                        : wxDateTime(wxLongLong(last)).Format("%Y-%m-%d %H:%M"));
-} catch (...) {
-  mindloft::Raise("frmUserDetail", "GetInfo");
 }
 
 void frmUserDetail::FillPage(int page) {

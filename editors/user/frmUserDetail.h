@@ -27,6 +27,7 @@ class frmUserDetail : public PropertySheet {
   /// Edits the user, who may be new, and returns when the sheet has been closed: wxID_OK or wxID_CANCEL. A
   /// new user who was not stored is still new then; HasSaved tells whether anything was.
   int OpenWindow(std::shared_ptr<Corvane::User> user);
+  void LoadInfoOnForm() override;
 
  protected:
   void SetButtonStatus() override;
@@ -44,7 +45,10 @@ class frmUserDetail : public PropertySheet {
   // Filling
   void Form_Load();
   void InitLists();
+  /// Headings and rows of the lists in the language of now.
+  void LoadLists();
   void GetInfo();
+  void ShowLastLogin();
   void DisplayRoles();
   void DisplayDomains();
   void DisplayGroups();

@@ -22,11 +22,23 @@ using namespace texts;
 constexpr int kDomain = 61615;
 constexpr int kAccessDenied = static_cast<int>(ErrorNumber::AccessDenied);
 
-void InitCheckList(ctExplorer& list, const std::vector<DirectoryColumn>& columns,
-                   const PendingChecks& checks) {
+const std::vector<DirectoryColumn> roleColumns = {{kColumnName, 190}, {kColumnPrivileges, 240}};
+const std::vector<DirectoryColumn> domainColumns = {
+    {kColumnName, 160}, {kColumnDescription, 200}, {kColumnState, 90}};
+const std::vector<DirectoryColumn> groupColumns = {
+    {kColumnName, 160}, {kDomain, 150}, {kColumnDescription, 150}};
+
+void InitCheckList(ctExplorer& list, const PendingChecks& checks) {
   PrepareDirectoryList(list);
-  AddDirectoryColumns(list, columns);
   list.SetCheckBoxes([&checks](const ExplorerRow& row) { return checks.IsChecked(IdOf(row)); });
+}
+
+std::shared_ptr<ExplorerRows> RolesOfServer() {
+  return std::make_shared<RoleRows>(GetApplication()->Server()->Roles()->View());
+}
+
+std::shared_ptr<ExplorerRows> DomainsOfServer() {
+  return std::make_shared<DomainRows>(GetApplication()->Server()->KDomains()->View());
 }
 
 /// All records of a view, in one piece: a page at a time would sort a long one once for each page.
@@ -46,11 +58,9 @@ std::vector<ObjectId> IdsOf(const std::vector<Record>& records) {
 }  // namespace
 
 void frmUserDetail::InitLists() try {
-  mindloft::InitCheckList(*ctRole, {{kColumnName, 190}, {kColumnPrivileges, 240}}, roles_);
-  mindloft::InitCheckList(*ctDomain, {{kColumnName, 160}, {kColumnDescription, 200}, {kColumnState, 90}},
-                          domains_);
-  mindloft::InitCheckList(*ctGroup, {{kColumnName, 160}, {kDomain, 150}, {kColumnDescription, 150}},
-                          changedGroups_);
+  mindloft::InitCheckList(*ctRole, roles_);
+  mindloft::InitCheckList(*ctDomain, domains_);
+  mindloft::InitCheckList(*ctGroup, changedGroups_);
   ctRole->lvCheckClick = [this](const ExplorerRow& row) {
     RunEvent("ctRole_lvCheckClick", [&] { ctRole_lvCheckClick(row); });
   };
@@ -64,16 +74,31 @@ void frmUserDetail::InitLists() try {
   mindloft::Raise("frmUserDetail", "InitLists");
 }
 
+void frmUserDetail::LoadLists() {
+  const auto load = [](ctExplorer& list, const std::vector<DirectoryColumn>& columns,
+                       std::shared_ptr<ExplorerRows> rows) {
+    if (rows) {
+      ShowDirectoryList(list, columns, std::move(rows));
+      return;
+    }
+    list.ClearList();
+    AddDirectoryColumns(list, columns);
+  };
+  load(*ctRole, roleColumns, IsFilled(RolesPage) ? RolesOfServer() : nullptr);
+  load(*ctDomain, domainColumns, IsFilled(DomainsPage) ? DomainsOfServer() : nullptr);
+  load(*ctGroup, groupColumns, groupRows_);
+}
+
 void frmUserDetail::DisplayRoles() try {
   roles_.SetSaved(user_->IsNew() ? std::vector<ObjectId>() : IdsOf(AllOf(user_->Roles())));
-  ctRole->SetRows(std::make_shared<RoleRows>(GetApplication()->Server()->Roles()->View()));
+  ctRole->SetRows(RolesOfServer());
 } catch (...) {
   mindloft::Raise("frmUserDetail", "DisplayRoles");
 }
 
 void frmUserDetail::DisplayDomains() try {
   ReadDomains();
-  ctDomain->SetRows(std::make_shared<DomainRows>(GetApplication()->Server()->KDomains()->View()));
+  ctDomain->SetRows(DomainsOfServer());
 } catch (...) {
   mindloft::Raise("frmUserDetail", "DisplayDomains");
 }
