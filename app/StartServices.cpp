@@ -7,6 +7,7 @@
 #include "backend/tessaline/login/LoginDialog.h"
 #include "backend/tessaline/login/SettingsForm.h"
 #include "config/frmConfiguration.h"
+#include "editors/styles/RegisterStyleEditor.h"
 #include "editors/user/RegisterUserEditor.h"
 #include "mainwindow/CommandLineState.h"
 #include "mainwindow/frmSysAdmin.h"
@@ -27,6 +28,7 @@ StartServices StartServices::Real(std::filesystem::path directoryFile,
   };
   services.showMainWindow = [] {
     RegisterUserEditor();
+    RegisterStyleEditor();
     const bool startWithNode = !GetStringHelper().IsBlank(SavedCommandLine());
     // Destroys itself when it is closed.
     auto* window = new frmSysAdmin(GetConnection(), startWithNode);

@@ -12,6 +12,7 @@
 #include "controls/numbers/ucMaskedNumber.h"
 #include "controls/richtext/TXControl.h"
 #include "controls/richtext/TextControl.h"
+#include "controls/styles/UserPreview.h"
 #include "controls/texts/UseMultiLineTextBox.h"
 #include "controls/texts/UseTextBox.h"
 #include "controls/texts/UserText.h"
@@ -30,6 +31,7 @@ void RegisterControls() {
     RegisterFormHandler(new BagXmlHandler<UseTextBox>("UseTextBox"));
     RegisterFormHandler(new BagXmlHandler<UseMultiLineTextBox>("UseMultiLineTextBox"));
     RegisterFormHandler(new BagXmlHandler<UserText>("UserText"));
+    RegisterFormHandler(new BagXmlHandler<UserPreview>("UserPreview"));
     RegisterFormHandler(new BagXmlHandler<TXControl>("TXControl"));
     RegisterFormHandler(new BagXmlHandler<TextControl>("TextControl"));
     // Of the toolkit's, for the dialogs of formats.

@@ -3,10 +3,13 @@
 #include <wx/combobox.h>
 #include <wx/textctrl.h>
 
+#include "backend/directory/Privileges.h"
 #include "backend/tessaline/Services.h"
 #include "config/frmConfiguration.h"
 #include "config/frmURL.h"
 #include "controls/explorer/ctExplorer.h"
+#include "core/modShare.h"
+#include "editors/styles/frmStyles.h"
 #include "mainwindow/ApplicationServices.h"
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/MainStatusBar.h"
@@ -81,6 +84,11 @@ void AddToolCommands(CommandSet& commands, frmSysAdmin& form) {
                   frmURL(&form, frmURL::Purpose::KeepList).ShowModal();
                 }});
 
+  commands.Add({.name = "mnuToolsStyles",
+                .shortcut = {},
+                .icon = "style",
+                .run = [&form] { frmStyles(&form).OpenWindow(); },
+                .enabled = [](const SelectionState&) { return CheckSysPrivilege(ManageStyles); }});
   commands.Add({.name = "mnuToolsWorkingFolder",
                 .shortcut = {},
                 .icon = {},

@@ -41,7 +41,8 @@ const std::vector<MenuLayout>& Layout() {
       {"mnuView",
        {"mnuViewRefresh", kSortMenu, kSeparator, "mnuViewToolbar", "mnuViewStatusBar", "mnuViewFullScreen",
         kSeparator, kLanguageMenu}},
-      {"mnuTools", {"mnuToolsConfiguration", "mnuToolsURL", kSeparator, "mnuToolsWorkingFolder"}},
+      {"mnuTools",
+       {"mnuToolsConfiguration", "mnuToolsURL", kSeparator, "mnuToolsStyles", "mnuToolsWorkingFolder"}},
       {"mnuHelp", {"mnuHelpContents", kSeparator, "mnuHelpAbout"}},
   };
   return layout;

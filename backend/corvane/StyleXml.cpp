@@ -95,12 +95,10 @@ std::string Load(pugi::xml_document& document, std::string_view definition) {
 
 template <typename Value>
 void Put(pugi::xml_node& style, const char* name, const Value& value, const Value& otherwise) {
-  if (value == otherwise) {
-    style.remove_attribute(name);
-    return;
-  }
-  auto attribute = style.attribute(name);
-  if (!attribute) attribute = style.append_attribute(name);
+  // The parser lets an attribute stand there several times.
+  while (style.remove_attribute(name)) continue;
+  if (value == otherwise) return;
+  auto attribute = style.append_attribute(name);
   if constexpr (std::is_same_v<Value, std::string>)
     attribute.set_value(value.c_str());
   else

@@ -18,6 +18,7 @@ enum ExplorerImage : int {
   GroupImage = 5,
   DisabledDomainImage = 6,
   DisabledUserImage = 7,
+  StyleImage = 8,
 };
 
 /// The explorer's images, in the order of ExplorerImage.

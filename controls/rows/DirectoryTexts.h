@@ -11,5 +11,12 @@ inline constexpr int kColumnPrivileges = 59310;
 inline constexpr int kSearchHint = 61104;
 inline constexpr int kStateEnabled = 61105;
 inline constexpr int kStateDisabled = 61106;
+inline constexpr int kColumnFont = 61961;
+inline constexpr int kFontAndSize = 61962;  ///< %1 its name, %2 its size
+inline constexpr int kFontBold = 61964;
+inline constexpr int kFontItalic = 61965;
+inline constexpr int kFontUnderlined = 61966;
+inline constexpr int kFontStruckThrough = 61967;
+inline constexpr int kWindowsFont = 61968;
 
 }  // namespace mindloft::texts

@@ -5,6 +5,7 @@
 #include "backend/corvane/Corvane.h"
 #include "backend/tessaline/Services.h"
 #include "controls/rows/DirectoryTexts.h"
+#include "controls/styles/StyleTexts.h"
 #include "editors/ResolveConflict.h"
 #include "editors/domains/DomainTexts.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 wxString StyleName(const ObjectId& style) {
   const auto found = GetApplication()->Server()->Styles()->Item(Corvane::IdText(style));
-  return found ? ToWx(found->Name()) : GetResource().GetString(texts::kNoStyle);
+  return found ? ToWx(found->Name()) : GetResource().GetString(texts::kEmptyStyle);
 }
 
 wxString StateName(const bool& disabled) {

@@ -5,7 +5,6 @@ namespace mindloft::texts {
 // Numbers of the texts that the dialogs on knowledge domains show.
 inline constexpr int kNameIsBlank = 51102;
 inline constexpr int kNewDomain = 61720;
-inline constexpr int kNoStyle = 61721;
 inline constexpr int kCreatingDomain = 61722;  ///< %1 its name
 inline constexpr int kAddUsersTo = 61723;      ///< %1 the domain
 inline constexpr int kUserInDomain = 61724;    ///< %1 the user, %2 the domain

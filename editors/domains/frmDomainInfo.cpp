@@ -3,9 +3,6 @@
 #include <wx/bookctrl.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
-#include <wx/choice.h>
-
-#include <algorithm>
 
 #include "backend/corvane/Corvane.h"
 #include "backend/directory/Privileges.h"
@@ -14,6 +11,8 @@
 #include "controls/explorer/ctExplorer.h"
 #include "controls/rows/DirectoryList.h"
 #include "controls/rows/GroupRows.h"
+#include "controls/styles/StyleTexts.h"
+#include "controls/styles/frmStyleSelect.h"
 #include "controls/texts/UseMultiLineTextBox.h"
 #include "controls/texts/UseTextBox.h"
 #include "core/ErrorHandling.h"
@@ -36,7 +35,8 @@ frmDomainInfo::frmDomainInfo(wxWindow* parent) : PropertySheet(parent, "frmDomai
   pnlUsers = Find<wxWindow>("pnlUsers");
   txtName = Find<UseTextBox>("txtName");
   TxtDesc = Find<UseMultiLineTextBox>("TxtDesc");
-  cboStyle = Find<wxChoice>("cboStyle");
+  txtStyle = Find<UseTextBox>("txtStyle");
+  cmdStyle = Find<wxButton>("cmdStyle");
   chkDisabled = Find<wxCheckBox>("chkDisabled");
   ctGroup = Find<ctExplorer>("ctGroup");
   copy_ = std::make_unique<DomainCopyPage>(
@@ -49,13 +49,12 @@ frmDomainInfo::frmDomainInfo(wxWindow* parent) : PropertySheet(parent, "frmDomai
 frmDomainInfo::~frmDomainInfo() = default;
 
 void frmDomainInfo::BindHandlers() {
-  const auto changed = [this](const char* procedure) {
-    return [this, procedure](wxCommandEvent&) { RunEvent(procedure, [this] { InfoChanged(); }); };
-  };
   txtName->Change = [this] { RunEvent("txtName_Change", [this] { InfoChanged(); }); };
   TxtDesc->Change = [this] { RunEvent("TxtDesc_Change", [this] { InfoChanged(); }); };
-  cboStyle->Bind(wxEVT_CHOICE, changed("cboStyle_Click"));
-  chkDisabled->Bind(wxEVT_CHECKBOX, changed("chkDisabled_Click"));
+  cmdStyle->Bind(wxEVT_BUTTON,
+                 [this](wxCommandEvent&) { RunEvent("cmdStyle_Click", [this] { cmdStyle_Click(); }); });
+  chkDisabled->Bind(wxEVT_CHECKBOX,
+                    [this](wxCommandEvent&) { RunEvent("chkDisabled_Click", [this] { InfoChanged(); }); });
   ctGroup->lvItemDblClick = [this](std::int64_t row) {
     if (row >= 0) RunEvent("ctGroup_lvItemDblClick", [this] { ctGroup_lvItemDblClick(); });
   };
@@ -107,7 +106,7 @@ void frmDomainInfo::LoadInfoOnForm() try {
   PropertySheet::LoadInfoOnForm();
   if (!domain_) return;
   const LoadingGuard::Lock lock(loading_);
-  ShowStyles();
+  ShowStyle();
   users_->LoadInfo();
   for (int page = 0; page < static_cast<int>(sstDomain->GetPageCount()); ++page)
     if (IsFilled(page) && sstDomain->GetPage(static_cast<std::size_t>(page)) != pnlUsers) FillPage(page);
@@ -119,27 +118,31 @@ void frmDomainInfo::ShowCaption() {
   if (domain_) SetCaption(domain_->IsNew(), texts::kNewDomain, ToWx(domain_->Stored().name));
 }
 
-void frmDomainInfo::ShowStyles() {
-  const int chosen = cboStyle->GetSelection();
-  wxArrayString names;
-  names.Add(GetResource().GetString(texts::kNoStyle));
-  styles_ = {0};
-  const auto styles = GetApplication()->Server()->Styles();
-  for (const auto& style : styles->View().Page(0, styles->Count())) {
-    names.Add(ToWx(style.name));
-    styles_.push_back(style.id);
-  }
-  cboStyle->Set(names);
-  cboStyle->SetSelection(chosen < static_cast<int>(styles_.size()) ? chosen : wxNOT_FOUND);
+void frmDomainInfo::ShowStyle() {
+  const auto style =
+      style_ == 0 ? nullptr : GetApplication()->Server()->Styles()->Item(Corvane::IdText(style_));
+  if (!style) style_ = 0;
+  txtStyle->SetText(style ? ToWx(style->Name()) : GetResource().GetString(texts::kEmptyStyle));
+}
+
+void frmDomainInfo::cmdStyle_Click() {
+  const auto present =
+      style_ == 0 ? nullptr : GetApplication()->Server()->Styles()->Item(Corvane::IdText(style_));
+  frmStyleSelect picker(this);
+  const auto chosen = picker.Display(present, true);
+  const ObjectId former = style_;
+  if (picker.Accepted()) style_ = chosen ? chosen->Stored().id : 0;
+  // The styles themselves may have been changed meanwhile.
+  ShowStyle();
+  if (style_ != former) InfoChanged();
 }
 
 void frmDomainInfo::GetInfo() try {
   const LoadingGuard::Lock lock(loading_);
   txtName->SetText(ToWx(domain_->Name()));
   TxtDesc->SetText(ToWx(domain_->Description()));
-  const auto style = std::ranges::find(styles_, domain_->Edited().style);
-  // A style that is gone meanwhile is none.
-  cboStyle->SetSelection(style == styles_.end() ? 0 : static_cast<int>(style - styles_.begin()));
+  style_ = domain_->Edited().style;
+  ShowStyle();
   chkDisabled->SetValue(domain_->Disabled());
 } catch (...) {
   mindloft::Raise("frmDomainInfo", "GetInfo");
@@ -169,7 +172,7 @@ void frmDomainInfo::ctGroup_lvItemDblClick() {
 void frmDomainInfo::SetButtonStatus() try {
   txtName->SetLocked(!mayChange_);
   TxtDesc->SetLocked(!mayChange_);
-  cboStyle->Enable(mayChange_);
+  cmdStyle->Enable(mayChange_);
   chkDisabled->Enable(mayChange_);
   copy_->SetButtonStatus(mayChange_);
   users_->Enable(mayChangeUsers_);
@@ -198,8 +201,7 @@ bool frmDomainInfo::RefuseBlankName() {
 void frmDomainInfo::PutInfo() {
   domain_->SetName(ToUtf8(txtName->Text()));
   domain_->SetDescription(ToUtf8(TxtDesc->Text()));
-  const int style = cboStyle->GetSelection();
-  if (style >= 0) domain_->SetStyleId(Corvane::IdText(styles_[static_cast<std::size_t>(style)]));
+  domain_->SetStyleId(Corvane::IdText(style_));
   domain_->SetDisabled(chkDisabled->GetValue());
   if (domain_->IsNew()) domain_->CopyFrom(copy_->Chosen());
 }

@@ -1,13 +1,12 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "backend/directory/Records.h"
 #include "editors/PropertySheet.h"
 
+class wxButton;
 class wxCheckBox;
-class wxChoice;
 
 namespace mindloft {
 
@@ -47,7 +46,9 @@ class frmDomainInfo : public PropertySheet {
   void ArrangePages();
   void ReadRights();
   void GetInfo();
-  void ShowStyles();
+  /// Reads the name of the style that is chosen; none when it is gone meanwhile.
+  void ShowStyle();
+  void cmdStyle_Click();
   void DisplayGroups();
   void ctGroup_lvItemDblClick();
   void InfoChanged();
@@ -59,7 +60,7 @@ class frmDomainInfo : public PropertySheet {
   std::shared_ptr<Corvane::KDomain> domain_;
   std::unique_ptr<DomainCopyPage> copy_;
   std::unique_ptr<MemberList> users_;
-  std::vector<ObjectId> styles_;  ///< of the entries of cboStyle
+  ObjectId style_ = 0;  ///< the chosen one; 0: none
   bool infoChanged_ = false;
   bool mayChange_ = false;       ///< what the first page shows
   bool mayChangeUsers_ = false;  ///< who has access
@@ -70,7 +71,8 @@ class frmDomainInfo : public PropertySheet {
   wxWindow* pnlUsers = nullptr;
   UseTextBox* txtName = nullptr;
   UseMultiLineTextBox* TxtDesc = nullptr;
-  wxChoice* cboStyle = nullptr;
+  UseTextBox* txtStyle = nullptr;
+  wxButton* cmdStyle = nullptr;
   wxCheckBox* chkDisabled = nullptr;
   ctExplorer* ctGroup = nullptr;
 };

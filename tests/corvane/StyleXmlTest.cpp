@@ -46,6 +46,8 @@ TEST(StyleXmlTest, WhatANewerConsoleKnowsStays) {
   EXPECT_NE(written.find("<glow"), std::string::npos) << written;
   EXPECT_TRUE(ReadStyle(written).format == Everything());
   EXPECT_TRUE(ReadStyle(WriteStyle(Everything(), "<broken")).format == Everything());
+  // The parser lets an attribute stand there twice.
+  EXPECT_EQ(WriteStyle({.fontSize = 10}, R"(<style background="" background="#ffffff"/>)"), WriteStyle({}));
 }
 
 TEST(StyleXmlTest, WhatCannotBeReadHasItsDefaultAndIsTold) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <wx/bookctrl.h>
+#include <wx/choice.h>
 
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Services.h"
@@ -114,7 +115,13 @@ TEST_F(DomainDialogsTest, WhatADomainMayNotBeCalledIsRefusedByNumber) {
 TEST_F(DomainDialogsTest, ChangesOfOthersAreMergedAndUsersComeAndGoWithThem) {
   const auto domain = Alpha();
   modal_.ExpectForm("frmDomainInfo", [&](User& user) {
-    user.Choose("cboStyle", "Slate");
+    modal_.ExpectForm("frmStyleSelect", [](User& picker) {
+      EXPECT_EQ(picker.Find<wxChoice>("CmbStyle").GetSelection(), 0);
+      picker.Choose("CmbStyle", "Slate");
+      picker.Click("cmdOK");
+    });
+    user.Click("cmdStyle");
+    EXPECT_EQ(user.Read("txtStyle"), "Slate");
     user.Check("chkDisabled");
     // Meanwhile another console gives it another name and takes a user away.
     const auto theirs = Alpha();
@@ -171,7 +178,7 @@ TEST_F(DomainDialogsTest, WithoutRightsAllCanBeSeenAndNothingChanged) {
   const auto before = Alpha()->Stored();
   modal_.ExpectForm("frmDomainInfo", [&](User& user) {
     EXPECT_EQ(user.Read("txtName"), "Alpha");
-    for (const char* control : {"cboStyle", "chkDisabled", "cmdApply", "cmdAdd", "cmdRemove"})
+    for (const char* control : {"cmdStyle", "chkDisabled", "cmdApply", "cmdAdd", "cmdRemove"})
       EXPECT_FALSE(user.IsEnabled(control)) << control;
     EXPECT_THROW(user.Type("txtName", "x"), std::runtime_error);
     user.SelectPage("sstDomain", 2);

@@ -1,0 +1,43 @@
+#include "controls/styles/StyleFont.h"
+
+#include <wx/font.h>
+#include <wx/fontenum.h>
+#include <wx/settings.h>
+
+namespace mindloft {
+namespace {
+
+struct Kind {
+  const char* name;
+  wxFontFamily family;
+};
+
+constexpr Kind kKinds[] = {
+    {"sans-serif", wxFONTFAMILY_SWISS}, {"serif", wxFONTFAMILY_ROMAN}, {"monospace", wxFONTFAMILY_TELETYPE}};
+
+constexpr int kAnySize = 10;
+
+}  // namespace
+
+std::optional<wxString> FaceOfStyleFont(const wxString& fontName) {
+  if (fontName.empty()) return wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName();
+  for (const auto& [name, family] : kKinds) {
+    if (fontName == name) return wxFont(wxFontInfo(kAnySize).Family(family)).GetFaceName();
+  }
+  if (!wxFontEnumerator::IsValidFacename(fontName)) return std::nullopt;
+  return fontName;
+}
+
+std::vector<wxString> StyleFonts() {
+  std::vector<wxString> names;
+  for (const auto& kind : kKinds) names.emplace_back(kind.name);
+  wxArrayString installed = wxFontEnumerator::GetFacenames();
+  installed.Sort();
+  for (const auto& face : installed) {
+    // Faces for text that runs downwards.
+    if (!face.StartsWith("@")) names.push_back(face);
+  }
+  return names;
+}
+
+}  // namespace mindloft
