@@ -20,7 +20,7 @@ namespace {
 constexpr int kDuplicate = 53657;
 constexpr int kSearchHint = 61104;
 constexpr int kUrlColumn = 61810;
-constexpr int kColumnWidth = 420;
+constexpr int kColumnWidth = 540;
 
 }  // namespace
 

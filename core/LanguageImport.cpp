@@ -3,6 +3,7 @@
 #include <wx/timer.h>
 
 #include <memory>
+#include <utility>
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
@@ -23,6 +24,13 @@ constexpr int kMachineNotWritten = 61802;
 constexpr int kImportHadNoEffect = 61803;
 /// Between two looks at the registry editor, in milliseconds.
 constexpr int kTimerInterval = 50;
+
+/// Once is enough: what is missing serves other programs only.
+bool toldOfMachine = false;
+
+void TellOfMachine() {
+  if (!std::exchange(toldOfMachine, true)) GetMessenger().ShowMessage(kMachineNotWritten);
+}
 
 /// One import, from its beginning until its effect is known.
 class Import : public wxEvtHandler {
@@ -58,14 +66,6 @@ class Import : public wxEvtHandler {
     GetRefresh()->NotifyLanguage();
     if (!GetRegistry().IsImported(file_, RegistryRoot::LocalMachine)) TellOfMachine();
     return true;
-  }
-
-  /// Once is enough: what is missing serves other programs only.
-  static void TellOfMachine() {
-    static bool told = false;
-    if (told) return;
-    told = true;
-    GetMessenger().ShowMessage(kMachineNotWritten);
   }
 
   int code_;
@@ -126,6 +126,7 @@ bool ImportLanguage(int code, const wxString& registryFile) try {
 }
 
 void EndLanguageImport() {
+  toldOfMachine = false;
   LastImport().reset();
 }
 
