@@ -7,10 +7,12 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <thread>
 
 #include "platform/Paths.h"
 #include "platform/RegistryStore.h"
+#include "platform/SecretStore.h"
 #include "platform/ui/SingleInstance.h"
 #include "tests/support/gui/WaitFor.h"
 
@@ -62,6 +64,17 @@ int Send(const Arguments& arguments) {
   return instance.SendToFirst(text) ? 0 : 1;
 }
 
+/// secrets: keeps a secret as the system does, and tells where.
+int KeepSecret(const Arguments&) {
+  const auto store = platform::SystemSecretStore();
+  const std::string secret = "pass \xF0\x9F\x94\x91 word";
+  const auto token = store->Protect(secret);
+  std::cout << "kept in " << token.substr(0, token.find(':')) << std::endl;
+  const bool found = platform::SystemSecretStore()->Reveal(token) == secret;
+  store->Forget(token);
+  return found && !store->Reveal(token) ? 0 : 1;
+}
+
 }  // namespace
 
 class Child::Process : public wxProcess {
@@ -107,6 +120,7 @@ std::optional<int> RunAsChild(int argc, char** argv) {
   if (argc < 3 || std::string(argv[1]) != "--child") return {};
   Arguments arguments(argv + 2, argv + argc);
   if (arguments[0] == "registry") return FillRegistry(arguments);
+  if (arguments[0] == "secrets") return KeepSecret(arguments);
   if (arguments[0] == "first") return TryToBeFirst(arguments);
   if (arguments[0] == "hang") return Hang(arguments);
   if (arguments[0] == "send") return Send(arguments);
