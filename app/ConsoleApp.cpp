@@ -75,7 +75,9 @@ bool ConsoleApp::OnInit() try {
   // A device context makes the toolkit read its style and fonts, which goes beside the early login.
   const wxMemoryDC styleWanted;
   wxImage::AddHandler(new wxPNGHandler);
-  SetAppDisplayName(GetResource().GetString(kApplicationTitle));
+  const auto showName = [this] { SetAppDisplayName(GetResource().GetString(kApplicationTitle)); };
+  showName();
+  language_ = GetRefresh()->OnNotifyLanguage(showName);
   platform::DrawTreeButtonsAsShapes();
   SetHelpAction(ShowHelp);
   auto& services = GetApplicationServices();

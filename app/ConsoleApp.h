@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "app/CommandLineOptions.h"
+#include "core/Refresh.h"
 
 namespace mindloft {
 
@@ -32,6 +33,7 @@ class ConsoleApp : public wxApp {
   CommandLineOptions options_;
   std::unique_ptr<EarlyLogin> early_;
   std::unique_ptr<frmHidden> hidden_;
+  Refresh::Subscription language_;
 };
 
 }  // namespace mindloft

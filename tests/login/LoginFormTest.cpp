@@ -7,11 +7,15 @@
 #include "backend/corvane/LocalDirectory.h"
 #include "backend/tessaline/Text.h"
 #include "backend/tessaline/login/LoginDialog.h"
+#include "backend/tessaline/login/SettingsForm.h"
+#include "core/Refresh.h"
 #include "platform/Clock.h"
 #include "platform/ui/Keyboard.h"
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/gui/FormLooks.h"
 #include "tests/support/gui/ModalDriver.h"
 #include "tests/support/gui/PrivateServices.h"
+#include "tests/support/gui/ShownTexts.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -271,6 +275,48 @@ TEST_F(LoginFormTest, CapsLockIsToldWhileItIsOn) {
   }}));
 }
 
+TEST_F(LoginFormTest, FitsInEveryLanguageAndSoDoesTheFormThatCreatesADirectory) {
+  const auto look = [](User& user) {
+    const auto& form = dynamic_cast<const wxTopLevelWindow&>(user.Form());
+    ExpectFits(form);
+    ExpectTextsOfLanguage(form, 5);
+  };
+  for (const int code : GetResource().Languages()) {
+    SCOPED_TRACE(code);
+    ASSERT_TRUE(GetResource().SwitchLanguage(code));
+    ModalDriver modal;
+    modal.ExpectForm("frmLogin", [&](User& user) {
+      look(user);
+      modal.ExpectForm("frmCreateDirectory", [&](User& creating) {
+        look(creating);
+        creating.Type("txtName", "Ana");
+        look(creating);
+        creating.Press(WXK_ESCAPE);
+      });
+      user.Click("cmdCreate");
+      Enter(user, "  ", kPassword);
+      user.Clear("txtServer");
+      user.Type("txtServer", "elsewhere");
+      user.Click("cmdOK");
+      look(user);
+      user.Press(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(Tessaline::LoginDialog(file_).Login(GetResource().GetString(61200)));
+  }
+}
+
+TEST_F(LoginFormTest, TheTitleFollowsTheLanguage) {
+  MakeDirectory();
+  ModalDriver modal;
+  modal.ExpectForm("frmLogin", [](User& user) {
+    user.Choose("cboLanguage", GetResource().LanguageName(1031));
+    EXPECT_EQ(user.Title(), GetResource().GetString(61200) + L" \u2013 Anmelden");
+    ExpectTextsOfLanguage(dynamic_cast<const wxTopLevelWindow&>(user.Form()), 8);
+    user.Press(WXK_ESCAPE);
+  });
+  EXPECT_FALSE(Tessaline::LoginDialog(file_).Login(GetResource().GetString(61200)));
+}
+
 TEST_F(LoginFormTest, TheLanguageChosenIsKeptOnlyWhenTheLoginSucceeds) {
   MakeDirectory();
   const auto chooseArabic = [](User& user) {
@@ -288,6 +334,50 @@ TEST_F(LoginFormTest, TheLanguageChosenIsKeptOnlyWhenTheLoginSucceeds) {
                        user.Click("cmdOK");
                      }}));
   EXPECT_EQ(GetResource().GetSetting(Tessaline::Setting::CurrentLanguage), "1025");
+}
+
+TEST_F(LoginFormTest, TheConnectionSettingsCanBeChangedAndTheNewTargetIsShown) {
+  EXPECT_FALSE(Login({[](User& user) {
+    EXPECT_FALSE(user.IsShown("cmdSettings")) << "nobody offers the form";
+    user.Press(WXK_ESCAPE);
+  }}));
+  MakeDirectory();
+  GetResource().SetSetting(Tessaline::Setting::ConfigurationServer, "wrong-server");
+  const wxWindow* parent = nullptr;
+  std::function<void()> change = [] {};
+  SetSettingsForm([&](wxWindow* over) {
+    parent = over;
+    change();
+  });
+  const auto speakArabic = [] {
+    GetResource().SwitchLanguage(1025);
+    GetResource().KeepLanguage();
+    GetRefresh()->NotifyLanguage();
+  };
+  EXPECT_TRUE(Login({[&](User& user) {
+                       Enter(user, "Root", kPassword);
+                       user.Click("cmdOK");
+                       EXPECT_TRUE(user.IsShown("lblMessage")) << "a server that is not there";
+                       user.Clear("txtServer");
+                       user.Type("txtServer", "typed");
+                       user.Click("cmdSettings");
+                       EXPECT_EQ(parent, &user.Form());
+                       EXPECT_EQ(user.Read("txtServer"), "typed") << "the settings are as they were";
+                       change = [&] {
+                         GetResource().SetSetting(Tessaline::Setting::ConfigurationServer, "(local)");
+                         speakArabic();
+                       };
+                       user.Click("cmdSettings");
+                     },
+                     [&](User& user) {
+                       EXPECT_EQ(user.Form().GetLayoutDirection(), wxLayout_RightToLeft);
+                       EXPECT_EQ(user.Read("txtServer"), "(local)");
+                       EXPECT_THAT(ToUtf8(user.Read("txtWhere")), HasSubstr("mine.directory"));
+                       EXPECT_EQ(user.Read("cboLanguage"), GetResource().LanguageName(1025));
+                       Enter(user, "Root", kPassword);
+                       user.Click("cmdOK");
+                     }}));
+  SetSettingsForm({});
 }
 
 }  // namespace

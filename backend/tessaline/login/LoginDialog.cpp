@@ -8,6 +8,11 @@
 #include "platform/Paths.h"
 
 namespace mindloft::Tessaline {
+namespace {
+
+constexpr int kApplicationTitle = 61200;
+
+}  // namespace
 
 LoginDialog::LoginDialog(std::filesystem::path directoryFile)
     : directoryFile_(directoryFile.empty() ? platform::DefaultDirectoryFile() : std::move(directoryFile)) {}
@@ -16,7 +21,8 @@ bool LoginDialog::Login(const wxString& title, const wxString& userName, wxWindo
   auto& resource = GetResource();
   const int languageBefore = resource.CurrentLanguage();
   const wxString server = LoginTarget::ServerOfSettings();
-  LoginFields fields{title, userName, server, server, directoryFile_};
+  const int titleNumber = title == resource.GetString(kApplicationTitle) ? kApplicationTitle : 0;
+  LoginFields fields{title, titleNumber, userName, server, server, directoryFile_};
   if (fields.userName.empty()) fields.userName = resource.GetSetting(Setting::LoginUserName);
 
   int result = frmLogin::kReopen;

@@ -86,6 +86,7 @@ void frmLogin::LoadLanguages() {
 
 void frmLogin::LoadInfoOnForm() try {
   FormDialog::LoadInfoOnForm();
+  if (fields_.titleNumber) fields_.title = GetResource().GetString(fields_.titleNumber);
   if (!fields_.title.empty()) SetTitle(fields_.title + L" \u2013 " + GetTitle());
   ShowMessage({});
   SetButtonStatus();
