@@ -6,6 +6,7 @@
 #include "backend/tessaline/Services.h"
 #include "core/ErrorHandling.h"
 #include "gallery/frmControls.h"
+#include "gallery/frmRichTexts.h"
 #include "platform/RegistryStore.h"
 
 namespace mindloft {
@@ -21,7 +22,10 @@ GalleryApp::GalleryApp() {
 bool GalleryApp::OnInit() try {
   if (!wxApp::OnInit()) return false;
   wxImage::AddHandler(new wxPNGHandler);
-  (new frmControls)->Show();
+  if (showsRichText_)
+    (new frmRichTexts)->Show();
+  else
+    (new frmControls)->Show();
   return true;
 } catch (...) {
   ShowError("GalleryApp", "OnInit");
@@ -37,9 +41,11 @@ void GalleryApp::OnInitCmdLine(wxCmdLineParser& parser) {
   wxApp::OnInitCmdLine(parser);
   parser.AddLongOption("language", "the code of the language to show: 1033, 2052, 1031, 1025, 1041 or 1055",
                        wxCMD_LINE_VAL_NUMBER);
+  parser.AddLongSwitch("rich-text", "show the rich-text controls");
 }
 
 bool GalleryApp::OnCmdLineParsed(wxCmdLineParser& parser) {
+  showsRichText_ = parser.Found("rich-text");
   long code = 0;
   if (parser.Found("language", &code) && !GetResource().SwitchLanguage(static_cast<int>(code))) {
     wxLogError("There is no language %ld.", code);

@@ -5,7 +5,8 @@
 namespace mindloft {
 
 /// The developers' program that shows every control of the console. `--language CODE` shows them in that
-/// language and its layout direction. It neither reads nor writes the user's settings.
+/// language and its layout direction, `--rich-text` the rich-text controls. It neither reads nor writes the
+/// user's settings.
 class GalleryApp : public wxApp {
  public:
   GalleryApp();
@@ -18,6 +19,9 @@ class GalleryApp : public wxApp {
 
   bool OnExceptionInMainLoop() override;
   void OnUnhandledException() override;
+
+ private:
+  bool showsRichText_ = false;
 };
 
 }  // namespace mindloft

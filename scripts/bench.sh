@@ -16,6 +16,7 @@ work=$PWD/build/bench-$users
 mkdir -p "$work"
 failed=0
 "$bin/directory-bench" "$work" "$users" || failed=1
+scripts/with-display.sh "$bin/richtext-bench" $([ -z "$small" ] || echo 20) || failed=1
 
 scripts/sample.sh "$work/big" --users "$users"
 scripts/sample.sh "$work/hundred" --users 100

@@ -110,7 +110,7 @@ void ButtonBar::LoadTexts() {
   cboFace->SetToolTip(texts.GetString(kFaceText));
   cboSize->SetToolTip(texts.GetString(kSizeText));
   for (wxWindow* group : groups_) {
-    auto* bar = wxDynamicCast(group, wxToolBar);
+    auto* bar = dynamic_cast<wxToolBar*>(group);
     if (!bar) continue;
     for (const auto& commands : Groups()) {
       for (const char* name : commands) {
@@ -160,7 +160,7 @@ void ButtonBar::Update(const RichTextControl& control) {
   const wxString size = wxString::Format("%d", format.GetFontSize());
   if (!cboSize->HasFocus() && cboSize->GetValue() != size) cboSize->ChangeValue(size);
   for (wxWindow* group : groups_) {
-    auto* bar = wxDynamicCast(group, wxToolBar);
+    auto* bar = dynamic_cast<wxToolBar*>(group);
     if (!bar) continue;
     for (const auto& commands : Groups()) {
       for (const char* name : commands) {

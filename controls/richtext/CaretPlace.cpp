@@ -29,7 +29,7 @@ CaretPlace PlaceOfCaret(const RichEditor& editor, const PageSettings& page) {
   long lines = 0;
   for (auto* node = main.GetChildren().GetFirst(); node && node->GetData() != outermost;
        node = node->GetNext()) {
-    if (auto* before = wxDynamicCast(node->GetData(), wxRichTextParagraph))
+    if (auto* before = dynamic_cast<wxRichTextParagraph*>(node->GetData()))
       lines += std::max<long>(1, static_cast<long>(before->GetLines().size()));
   }
   long start = paragraph->GetRange().GetStart();

@@ -46,6 +46,21 @@ bool AskForPage(wxWindow& parent, PageSettings& page) {
   wxPageSetupDialogData data = ToPageSetupData(page);
   wxPageSetupDialog dialog(wxGetTopLevelParent(&parent), &data);
   if (dialog.ShowModal() != wxID_OK) return false;
+  // Whole millimetres there, tenths here.
+  constexpr int kTenths = 10;
+  const wxPageSetupDialogData& chosen = dialog.GetPageSetupDialogData();
+  const bool landscape = chosen.GetPrintData().GetOrientation() == wxLANDSCAPE;
+  wxSize sheet = chosen.GetPaperSize() * kTenths;
+  if (landscape) sheet = wxSize(sheet.y, sheet.x);
+  page.printerName = chosen.GetPrintData().GetPrinterName();
+  page.orientation = landscape ? PageOrientation::Landscape : PageOrientation::Portrait;
+  page.paperWidth = sheet.x;
+  page.paperHeight = sheet.y;
+  page.leftMargin = chosen.GetMarginTopLeft().x * kTenths;
+  page.topMargin = chosen.GetMarginTopLeft().y * kTenths;
+  page.rightMargin = chosen.GetMarginBottomRight().x * kTenths;
+  page.bottomMargin = chosen.GetMarginBottomRight().y * kTenths;
+  SavePageSettings(page);
   return true;
 }
 

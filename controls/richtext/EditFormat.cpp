@@ -16,13 +16,14 @@ long CaretPlace(RichEditor& editor) {
   return editor.GetAdjustedCaretPosition(editor.GetCaretPosition());
 }
 
-wxRichTextRange RangeOf(const wxRichTextParagraph& paragraph) {
-  return wxRichTextRange(paragraph.GetRange().GetStart(), paragraph.GetRange().GetEnd() + 1);
+ParagraphPlace PlaceOf(const wxRichTextParagraph& paragraph) {
+  const wxRichTextRange range = paragraph.GetRange();
+  return {wxRichTextRange(range.GetStart(), range.GetEnd() + 1), paragraph.GetCombinedAttributes()};
 }
 
-void ApplyTo(RichEditor& editor, const wxRichTextParagraph& paragraph, const wxRichTextAttr& format) {
+void ApplyTo(RichEditor& editor, const wxRichTextRange& range, const wxRichTextAttr& format) {
   editor.SetStyleEx(
-      RangeOf(paragraph), format,
+      range, format,
       wxRICHTEXT_SETSTYLE_WITH_UNDO | wxRICHTEXT_SETSTYLE_OPTIMIZE | wxRICHTEXT_SETSTYLE_PARAGRAPHS_ONLY);
 }
 
@@ -56,27 +57,28 @@ class UndoStep {
 
 }  // namespace
 
-std::vector<wxRichTextParagraph*> SelectedParagraphs(RichEditor& editor) {
-  std::vector<wxRichTextParagraph*> paragraphs;
+std::vector<ParagraphPlace> SelectedParagraphs(RichEditor& editor) {
+  std::vector<ParagraphPlace> paragraphs;
   auto* text = editor.GetFocusObject();
   const long start = editor.SelectionStart();
   const long length = editor.SelectionLength();
   if (length == 0) {
-    if (auto* paragraph = text->GetParagraphAtPosition(CaretPlace(editor))) paragraphs.push_back(paragraph);
+    if (const auto* paragraph = text->GetParagraphAtPosition(CaretPlace(editor)))
+      paragraphs.push_back(PlaceOf(*paragraph));
     return paragraphs;
   }
   for (auto* node = text->GetChildren().GetFirst(); node; node = node->GetNext()) {
-    auto* paragraph = wxDynamicCast(node->GetData(), wxRichTextParagraph);
+    auto* paragraph = dynamic_cast<wxRichTextParagraph*>(node->GetData());
     if (!paragraph || paragraph->GetRange().GetEnd() < start) continue;
     if (paragraph->GetRange().GetStart() >= start + length) break;
-    paragraphs.push_back(paragraph);
+    paragraphs.push_back(PlaceOf(*paragraph));
   }
   return paragraphs;
 }
 
 wxRichTextAttr ParagraphFormat(RichEditor& editor) {
   const auto paragraphs = SelectedParagraphs(editor);
-  return paragraphs.empty() ? editor.GetBasicStyle() : paragraphs.front()->GetCombinedAttributes();
+  return paragraphs.empty() ? editor.GetBasicStyle() : paragraphs.front().format;
 }
 
 wxRichTextAttr CharacterFormat(RichEditor& editor) {
@@ -89,7 +91,7 @@ wxRichTextAttr CharacterFormat(RichEditor& editor) {
 
 void ApplyToParagraphs(RichEditor& editor, const wxRichTextAttr& format) {
   const UndoStep step(editor);
-  for (const auto* paragraph : SelectedParagraphs(editor)) ApplyTo(editor, *paragraph, format);
+  for (const auto& paragraph : SelectedParagraphs(editor)) ApplyTo(editor, paragraph.range, format);
 }
 
 void ApplyToCharacters(RichEditor& editor, const wxRichTextAttr& format) {
@@ -121,26 +123,24 @@ BulletKind BulletKindOf(const wxRichTextAttr& format) {
 
 void MakeList(RichEditor& editor, BulletKind kind, int first) {
   const UndoStep step(editor);
-  for (const auto* paragraph : SelectedParagraphs(editor)) {
-    const wxRichTextAttr present = paragraph->GetCombinedAttributes();
+  for (const auto& [range, present] : SelectedParagraphs(editor)) {
     wxRichTextAttr format;
     format.SetBulletStyle(BulletStyleOf(kind));
     if (kind == BulletKind::Bullets) format.SetBulletName("standard/circle");
     if (kind != BulletKind::Bullets && kind != BulletKind::None) format.SetBulletNumber(first++);
     format.SetLeftIndent(present.GetLeftIndent(), kind == BulletKind::None ? 0 : kListIndent);
-    ApplyTo(editor, *paragraph, format);
+    ApplyTo(editor, range, format);
   }
 }
 
 void ChangeIndent(RichEditor& editor, int steps) {
   const UndoStep step(editor);
-  for (const auto* paragraph : SelectedParagraphs(editor)) {
-    const wxRichTextAttr present = paragraph->GetCombinedAttributes();
+  for (const auto& [range, present] : SelectedParagraphs(editor)) {
     wxRichTextAttr format;
     const int indent =
         std::clamp<int>(static_cast<int>(present.GetLeftIndent()) + steps * kIndentStep, 0, kFarthestIndent);
     format.SetLeftIndent(indent, static_cast<int>(present.GetLeftSubIndent()));
-    ApplyTo(editor, *paragraph, format);
+    ApplyTo(editor, range, format);
   }
 }
 
@@ -152,15 +152,13 @@ wxString StyleOf(RichEditor& editor) {
 void ApplyStyleName(RichEditor& editor, const wxString& name) {
   const wxRichTextAttr style = StyleFormat(name, editor.GetBasicStyle());
   const UndoStep step(editor);
-  for (const auto* paragraph : SelectedParagraphs(editor)) {
+  for (const auto& [range, present] : SelectedParagraphs(editor)) {
     // The characters look as the style says, too; their own colours and weights go.
-    editor.SetStyleEx(RangeOf(*paragraph), style,
-                      wxRICHTEXT_SETSTYLE_WITH_UNDO | wxRICHTEXT_SETSTYLE_PARAGRAPHS_ONLY);
+    editor.SetStyleEx(range, style, wxRICHTEXT_SETSTYLE_WITH_UNDO | wxRICHTEXT_SETSTYLE_PARAGRAPHS_ONLY);
     wxRichTextAttr characters = style;
     characters.SetFlags(characters.GetFlags() & wxTEXT_ATTR_CHARACTER);
-    const auto range = RangeOf(*paragraph);
     editor.SetStyleEx(
-        wxRichTextRange(range.GetStart(), range.GetEnd()), characters,
+        wxRichTextRange(range.GetStart(), range.GetEnd() - 1), characters,
         wxRICHTEXT_SETSTYLE_WITH_UNDO | wxRICHTEXT_SETSTYLE_OPTIMIZE | wxRICHTEXT_SETSTYLE_CHARACTERS_ONLY);
   }
 }

@@ -11,8 +11,14 @@ class RichEditor;
 // The formats of the selection, or of the caret's paragraph and of what is typed next. Each change is one
 // step to undo.
 
+/// A paragraph as a change of formats needs it: every such change replaces the component's own object.
+struct ParagraphPlace {
+  wxRichTextRange range;  ///< its end is the place behind it
+  wxRichTextAttr format;
+};
+
 /// The paragraphs that the selection touches, or the caret's, of the text that the caret is in.
-std::vector<wxRichTextParagraph*> SelectedParagraphs(RichEditor& editor);
+std::vector<ParagraphPlace> SelectedParagraphs(RichEditor& editor);
 /// What the first of them looks like.
 wxRichTextAttr ParagraphFormat(RichEditor& editor);
 /// What the character before the caret, or the first selected one, looks like.

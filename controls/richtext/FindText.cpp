@@ -2,16 +2,24 @@
 
 #include <wx/wxcrt.h>
 
+#include "backend/tessaline/Text.h"
 #include "controls/richtext/RichEditor.h"
 #include "controls/richtext/TextBlocks.h"
+#include "platform/Unicode.h"
 
 namespace mindloft {
 namespace {
 
 const std::size_t npos = wxString::npos;
 
+wxString Folded(const wxString& text) {
+  return ToWx(platform::UpperCase(ToUtf8(text)));
+}
+
+/// Letters are also those that only this folding knows: the system's own knowledge depends on its locale.
 bool IsWordCharacter(wxUniChar character) {
-  return wxIsalnum(character) || character == '_';
+  const wxString alone(character);
+  return wxIsalnum(character) || character == '_' || Folded(alone) != alone;
 }
 
 bool IsWholeWord(const wxString& text, std::size_t start, std::size_t length) {
@@ -62,8 +70,8 @@ void Select(RichEditor& editor, const TextBlock& block, std::size_t place, std::
 std::size_t FindIn(const wxString& text, const wxString& wanted, std::size_t start,
                    const FindOptions& options) {
   if (wanted.empty() || wanted.length() > text.length()) return npos;
-  const wxString where = options.matchCase ? text : text.Lower();
-  const wxString what = options.matchCase ? wanted : wanted.Lower();
+  const wxString where = options.matchCase ? text : Folded(text);
+  const wxString what = options.matchCase ? wanted : Folded(wanted);
   // Folding that changes lengths would move the places.
   if (where.length() != text.length() || what.length() != wanted.length()) {
     FindOptions exact = options;

@@ -20,14 +20,14 @@ void DrawTables(const wxRichTextParagraphLayoutBox& box, wxDC& dc, const wxRect&
     const int top = paragraph.GetPosition().y;
     if (top > visible.GetBottom()) return;
     if (top + paragraph.GetCachedSize().y < visible.y) continue;
-    const auto* parts = wxDynamicCast(&paragraph, wxRichTextParagraph);
+    const auto* parts = dynamic_cast<const wxRichTextParagraph*>(&paragraph);
     if (!parts) continue;
     for (auto* part = parts->GetChildren().GetFirst(); part; part = part->GetNext()) {
-      const auto* table = wxDynamicCast(part->GetData(), wxRichTextTable);
+      const auto* table = dynamic_cast<const wxRichTextTable*>(part->GetData());
       if (!table) continue;
       DrawCells(*table, dc);
       for (auto* cell = table->GetChildren().GetFirst(); cell; cell = cell->GetNext()) {
-        if (const auto* inner = wxDynamicCast(cell->GetData(), wxRichTextCell))
+        if (const auto* inner = dynamic_cast<const wxRichTextCell*>(cell->GetData()))
           DrawTables(*inner, dc, visible);
       }
     }

@@ -51,9 +51,9 @@ void RichTextControl::BindEditor() {
   TXTextControl->changed = [this] { OnChanged(); };
   TXTextControl->moved = [this] { OnMoved(); };
   TXTextControl->Bind(wxEVT_KEY_UP, [this](wxKeyEvent& event) {
-    event.Skip();
     int key = ControlKeyCode(event);
-    RaiseEvent(*this, className_, "KeyUp", KeyUp, key, ShiftState(event));
+    // A handler that destroys the control leaves nobody to pass the event on to.
+    if (RaiseEvent(*this, className_, "KeyUp", KeyUp, key, ShiftState(event))) event.Skip();
   });
   TXTextControl->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
     if (!RunCommandOfKey(*this, event)) event.Skip();
@@ -78,14 +78,14 @@ void RichTextControl::BindMouse() {
   };
   for (const MouseButton& button : buttons) {
     TXTextControl->Bind(button.down, [this, button, twips](wxMouseEvent& event) {
-      event.Skip();
       const wxPoint place = twips(event);
-      OnMouseDown(button.number, ShiftState(event), place.x, place.y);
+      if (OnMouseDown(button.number, ShiftState(event), place.x, place.y)) event.Skip();
     });
     TXTextControl->Bind(button.up, [this, button, twips](wxMouseEvent& event) {
-      event.Skip();
       const wxPoint place = twips(event);
-      RaiseEvent(*this, className_, "MouseUp", MouseUp, button.number, ShiftState(event), place.x, place.y);
+      if (RaiseEvent(*this, className_, "MouseUp", MouseUp, button.number, ShiftState(event), place.x,
+                     place.y))
+        event.Skip();
     });
   }
 }

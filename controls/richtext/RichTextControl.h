@@ -116,8 +116,8 @@ class RichTextControl : public wxCompositeWindowSettersOnly<wxPanel>,
   void CreateParts(wxWindow* parent, wxWindowID id, const wxPoint& position, const wxSize& size, long style,
                    const wxString& name);
   virtual bool IsButtonBarVisible() const { return true; }
-  /// Called for presses of a mouse button in the editor.
-  virtual void OnMouseDown(int, int, int, int) {}
+  /// Called for presses of a mouse button in the editor; false when the control is no longer there.
+  virtual bool OnMouseDown(int, int, int, int) { return true; }
   void UserControl_Resize();
   /// Runs a property's procedure and records the change; its errors are reported and thrown on.
   template <typename Procedure>

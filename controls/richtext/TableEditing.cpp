@@ -63,8 +63,8 @@ void ChangeTable(RichEditor& editor, Change change) {
 }  // namespace
 
 TableCell CaretCell(RichEditor& editor) {
-  auto* cell = wxDynamicCast(editor.GetFocusObject(), wxRichTextCell);
-  auto* table = cell ? wxDynamicCast(cell->GetParent(), wxRichTextTable) : nullptr;
+  auto* cell = dynamic_cast<wxRichTextCell*>(editor.GetFocusObject());
+  auto* table = cell ? dynamic_cast<wxRichTextTable*>(cell->GetParent()) : nullptr;
   if (!table) return {};
   for (int row = 0; row < table->GetRowCount(); ++row) {
     for (int column = 0; column < table->GetColumnCount(); ++column) {

@@ -36,8 +36,8 @@ void TextControl::SetSelText(const wxString& text) {
   Run("SelText", [&] { Editor().PutSelection(text); });
 }
 
-void TextControl::OnMouseDown(int button, int shift, int x, int y) {
-  RaiseEvent(*this, ClassName(), "MouseDown", MouseDown, button, shift, x, y);
+bool TextControl::OnMouseDown(int button, int shift, int x, int y) {
+  return RaiseEvent(*this, ClassName(), "MouseDown", MouseDown, button, shift, x, y);
 }
 
 }  // namespace mindloft

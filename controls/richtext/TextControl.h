@@ -21,7 +21,7 @@ class TextControl : public BagControl<TextControl, RichTextControl> {
   void SetSelText(const wxString& text);
 
  protected:
-  void OnMouseDown(int button, int shift, int x, int y) override;
+  bool OnMouseDown(int button, int shift, int x, int y) override;
 };
 
 }  // namespace mindloft

@@ -60,7 +60,7 @@ frmFindText::frmFindText(RichTextControl& control, bool replaces, const wxString
 }
 
 void frmFindText::Open() {
-  const auto* owner = wxDynamicCast(wxGetTopLevelParent(&control_), wxDialog);
+  const auto* owner = dynamic_cast<wxDialog*>(wxGetTopLevelParent(&control_));
   if (owner && owner->IsModal())
     ShowModal();
   else

@@ -2,6 +2,7 @@
 #include <wx/panel.h>
 
 #include "gallery/frmControls.h"
+#include "gallery/frmRichTexts.h"
 #include "tests/support/gui/PrivateServices.h"
 #include "tests/support/gui/User.h"
 #include "tests/support/gui/WaitFor.h"
@@ -35,6 +36,22 @@ TEST_F(GalleryTest, ShowsAllOnOnePageInEveryLanguage) {
     EXPECT_LE(form->GetSize().y, 1000) << language;
     for (const char* part : {"NumbersPart", "TextsPart", "ButtonsPart"})
       ExpectInside(User(*form).Find<wxPanel>(part));
+    form->Destroy();
+    Settle();
+  }
+}
+
+TEST_F(GalleryTest, ShowsTheRichTextControlsInEveryLanguage) {
+  for (const int language : GetResource().Languages()) {
+    ASSERT_TRUE(GetResource().SwitchLanguage(language));
+    auto* form = new frmRichTexts;
+    form->Show();
+    const auto& part = User(*form).Find<wxPanel>("RichTextPart");
+    WaitFor([&] { return part.IsShownOnScreen() && part.GetSize().x > 0; }, "the controls on the screen");
+    Settle();
+    EXPECT_LE(form->GetSize().x, 1280) << language;
+    EXPECT_LE(form->GetSize().y, 1000) << language;
+    ExpectInside(part);
     form->Destroy();
     Settle();
   }

@@ -183,8 +183,6 @@ void HtmlReader::StartParagraph(const HtmlToken& token) {
     SetAttribute(paragraph, "parstyle", known->second);
   const auto align = token.Attribute("align");
   ReadHtmlStyle((align.empty() ? "" : "text-align:" + align + ';') + token.Attribute("style"), paragraph);
-  // A run's formats of the whole paragraph are handed on to its runs.
-  Push(token);
 }
 
 void HtmlReader::StartList(const HtmlToken& token) {
@@ -214,7 +212,6 @@ void HtmlReader::StartItem(const HtmlToken& token) {
   SetAttribute(paragraph, "leftsubindent", std::to_string(kListIndent));
   SetAttribute(paragraph, "bulletstyle", std::to_string(bullet));
   ReadHtmlStyle(token.Attribute("style"), paragraph);
-  Push(token);
 }
 
 void HtmlReader::StartTable(const HtmlToken& token) {
@@ -260,7 +257,8 @@ void HtmlReader::StartCell(const HtmlToken& token) {
       SetAttribute(box_, (side + "width").c_str(), kBlackBorder);
     }
   }
-  Push(token);
+  // The style is the cell's; a heading's weight is its texts'.
+  if (token.name == "th") formats_.push_back({token.name, "font-weight:bold"});
 }
 
 /// Gives every row as many cells as the longest has.

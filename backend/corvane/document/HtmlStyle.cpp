@@ -12,9 +12,9 @@ constexpr double kPointsPerInch = 72;
 constexpr double kPixelsPerInch = 96;
 constexpr int kBold = 700;
 constexpr int kItalic = 93;
-constexpr int kStrikethrough = 0x1;
-constexpr int kSuperscript = 0x40;
-constexpr int kSubscript = 0x80;
+constexpr int kStrikethrough = 0x4;
+constexpr int kSuperscript = 0x100;
+constexpr int kSubscript = 0x200;
 
 std::string_view Trimmed(std::string_view text) {
   const auto start = text.find_first_not_of(" \t\r\n");

@@ -73,7 +73,7 @@ TEST(DocumentHtmlTest, ReadsTheSafePartOfForeignHtml) {
   }
   EXPECT_EQ(ParagraphsOfHtml("<p style='color:red;font-family:\"A\",b;font-size:16px;position:fixed'>x"),
             R"(<paragraph textcolor="#FF0000" fontface="A" fontpointsize="12">)"
-            R"(<text textcolor="#FF0000" fontface="A" fontpointsize="12">"x"</text></paragraph>)");
+            R"(<text>"x"</text></paragraph>)");
 }
 
 TEST(DocumentHtmlTest, BearsDepthAndSize) {

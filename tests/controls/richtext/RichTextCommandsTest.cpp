@@ -1,0 +1,327 @@
+#include <gmock/gmock.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/clrpicker.h>
+#include <wx/listbox.h>
+#include <wx/spinctrl.h>
+#include <wx/toolbar.h>
+
+#include "controls/richtext/EditCommands.h"
+#include "controls/richtext/EditFormat.h"
+#include "controls/richtext/TXControl.h"
+#include "controls/richtext/TableEditing.h"
+#include "tests/controls/richtext/RichTextFixture.h"
+#include "tests/support/gui/ModalDriver.h"
+#include "tests/support/gui/WaitFor.h"
+
+namespace mindloft::test {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+
+class RichTextCommandsTest : public RichTextFixture {
+ protected:
+  void SetUp() override {
+    RichTextFixture::SetUp();
+    control_ = &Show(new TXControl(frame_));
+  }
+  /// Three lines; the second one's word is selected.
+  void PutLines() {
+    control_->SetText("one\ntwo\nthree");
+    control_->SetSelStart(4);
+    control_->SetSellength(3);
+  }
+  template <typename Control>
+  static Control& In(User& user, const char* name) {
+    return user.Find<Control>(name);
+  }
+};
+
+TEST_F(RichTextCommandsTest, KeysFormatTheSelectionAndCanBeTakenBack) {
+  const std::tuple<int, int, const char*> keys[] = {
+      {'B', wxMOD_CONTROL, "fontweight=\"700\""},   {'I', wxMOD_CONTROL, "fontstyle=\"93\""},
+      {'U', wxMOD_CONTROL, "fontunderlined=\"1\""}, {'E', wxMOD_CONTROL, "alignment=\"2\""},
+      {'R', wxMOD_CONTROL, "alignment=\"3\""},      {'J', wxMOD_CONTROL, "alignment=\"4\""},
+      {'M', wxMOD_CONTROL, "leftindent=\"100\""},
+  };
+  for (const auto& [key, modifiers, format] : keys) {
+    PutLines();
+    const std::string before = Stored();
+    EXPECT_THAT(before, Not(HasSubstr(format)));
+    Press(key, modifiers);
+    EXPECT_THAT(Stored(), HasSubstr(format)) << static_cast<char>(key);
+    ExpectUndoable(before);
+  }
+  EXPECT_THAT(Stored(), Not(HasSubstr("fontweight=\"700\"")));
+}
+
+TEST_F(RichTextCommandsTest, FormatsWithoutASelectionHoldForWhatIsTypedNext) {
+  Press('B', wxMOD_CONTROL);
+  Type("bold");
+  Press('B', wxMOD_CONTROL);
+  Type("plain");
+  EXPECT_THAT(Stored(), AllOf(HasSubstr("fontweight=\"700\">\"bold\""), HasSubstr("\"plain\"")));
+}
+
+TEST_F(RichTextCommandsTest, ListsCountTheirParagraphs) {
+  for (const char* command : {"numbering", "bullets"}) {
+    control_->SetText("one\ntwo\nthree");
+    const std::string before = Stored();
+    static_cast<TXControl*>(control_)->SelectAll();
+    RunCommand(*control_, CommandOf(command));
+    if (std::string(command) == "numbering")
+      EXPECT_THAT(Stored(), AllOf(HasSubstr("bulletnumber=\"1\""), HasSubstr("bulletnumber=\"2\""),
+                                  HasSubstr("bulletnumber=\"3\"")));
+    else
+      EXPECT_THAT(Stored(), HasSubstr("bulletname=\"standard/circle\""));
+    ExpectUndoable(before);
+    EXPECT_TRUE(CommandOf(command).isChecked(*control_));
+    control_->SetSelStart(1);
+    RunCommand(*control_, CommandOf(command));
+    EXPECT_FALSE(CommandOf(command).isChecked(*control_));
+  }
+}
+
+TEST_F(RichTextCommandsTest, FontDialogShowsAndSetsTheCharacters) {
+  PutLines();
+  const std::string before = Stored();
+  ModalDriver modal;
+  modal.ExpectForm("frmRichFont", [](User& user) {
+    In<wxSpinCtrl>(user, "spnSize").SetValue(20);
+    In<wxColourPickerCtrl>(user, "cpkColour").SetColour(wxColour(1, 2, 3));
+    user.Check("chkBold");
+    user.Check("chkStrike");
+    user.Click("cmdOK");
+  });
+  Press('D', wxMOD_CONTROL);
+  EXPECT_THAT(Stored(), AllOf(HasSubstr("fontpointsize=\"20\""), HasSubstr("textcolor=\"#010203\""),
+                              HasSubstr("fontweight=\"700\""), HasSubstr("texteffects=\"4\"")));
+  ExpectUndoable(before);
+  control_->SetSelStart(5);
+  const std::string changed = Stored();
+  modal.ExpectForm("frmRichFont", [](User& user) {
+    EXPECT_EQ(In<wxSpinCtrl>(user, "spnSize").GetValue(), 20);
+    EXPECT_EQ(In<wxColourPickerCtrl>(user, "cpkColour").GetColour(), wxColour(1, 2, 3));
+    EXPECT_TRUE(user.IsChecked("chkBold"));
+    EXPECT_FALSE(user.IsChecked("chkItalic"));
+    user.Check("chkItalic");
+    user.Click("cmdCancel");
+  });
+  control_->FontDialog();
+  EXPECT_EQ(Stored(), changed);
+}
+
+TEST_F(RichTextCommandsTest, ParagraphDialogShowsAndSetsTheParagraphs) {
+  PutLines();
+  const std::string before = Stored();
+  ModalDriver modal;
+  modal.ExpectForm("frmRichParagraph", [](User& user) {
+    EXPECT_EQ(user.Read("cboAlignment"), "Align left");
+    user.Choose("cboAlignment", "Justify");
+    user.Choose("cboSpacing", "Double");
+    In<wxSpinCtrlDouble>(user, "spnLeft").SetValue(20);
+    In<wxSpinCtrlDouble>(user, "spnFirst").SetValue(-5.5);
+    In<wxSpinCtrlDouble>(user, "spnAfter").SetValue(2.5);
+    user.Click("cmdOK");
+  });
+  control_->ParagraphDialog();
+  EXPECT_THAT(Stored(), AllOf(HasSubstr("alignment=\"4\""), HasSubstr("linespacing=\"20\""),
+                              HasSubstr("leftindent=\"145\""), HasSubstr("leftsubindent=\"55\""),
+                              HasSubstr("parspacingafter=\"25\"")));
+  ExpectUndoable(before);
+  modal.ExpectForm("frmRichParagraph", [](User& user) {
+    EXPECT_EQ(user.Read("cboAlignment"), "Justify");
+    EXPECT_NEAR(In<wxSpinCtrlDouble>(user, "spnLeft").GetValue(), 20, 0.01);
+    EXPECT_NEAR(In<wxSpinCtrlDouble>(user, "spnFirst").GetValue(), -5.5, 0.01);
+    user.Press(WXK_ESCAPE);
+  });
+  control_->ParagraphDialog();
+}
+
+TEST_F(RichTextCommandsTest, StylesTabsAndListsHaveTheirDialogs) {
+  PutLines();
+  const std::string plain = Stored();
+  ModalDriver modal;
+  modal.ExpectForm("frmRichStyles", [](User& user) {
+    EXPECT_EQ(In<wxListBox>(user, "lstStyles").GetStringSelection(), "Normal");
+    user.Choose("lstStyles", "Heading 2");
+    user.Click("cmdOK");
+  });
+  control_->StytlesDialog();
+  EXPECT_THAT(Stored(), AllOf(HasSubstr("parstyle=\"Heading 2\""), HasSubstr("fontweight=\"700\"")));
+  EXPECT_EQ(user_->Read("cboStyle"), "Heading 2");
+  ExpectUndoable(plain);
+
+  const std::string styled = Stored();
+  modal.ExpectForm("frmRichTabs", [](User& user) {
+    for (const double place : {50.0, 25.5, 50.0, 80.0}) {
+      In<wxSpinCtrlDouble>(user, "spnPlace").SetValue(place);
+      user.Click("cmdAdd");
+    }
+    user.Choose("lstStops", In<wxListBox>(user, "lstStops").GetString(2));
+    user.Click("cmdRemove");
+    user.Click("cmdOK");
+  });
+  control_->TabsDialog();
+  EXPECT_THAT(Stored(), HasSubstr("tabs=\"255,500\""));
+  ExpectUndoable(styled);
+
+  const std::string tabbed = Stored();
+  modal.ExpectForm("frmRichList", [](User& user) {
+    EXPECT_FALSE(user.IsEnabled("spnStart"));
+    user.Choose("cboKind", "Roman numbers (I, II, III)");
+    In<wxSpinCtrl>(user, "spnStart").SetValue(4);
+    user.Click("cmdOK");
+  });
+  control_->ListAttribute();
+  EXPECT_THAT(Stored(), AllOf(HasSubstr("bulletstyle=\"264\""), HasSubstr("bulletnumber=\"4\"")));
+  ExpectUndoable(tabbed);
+}
+
+TEST_F(RichTextCommandsTest, TablesAreMadeAndChanged) {
+  Type("before");
+  EXPECT_FALSE(control_->CanModifyTable());
+  const std::string plain = Stored();
+  control_->InsertRow();
+  control_->DeleteColumn();
+  control_->TableProperties();
+  EXPECT_EQ(Stored(), plain) << "outside a table";
+  ModalDriver modal;
+  modal.ExpectForm("frmInsertTable", [](User& user) {
+    In<wxSpinCtrl>(user, "spnRows").SetValue(2);
+    In<wxSpinCtrl>(user, "spnColumns").SetValue(4);
+    user.Click("cmdOK");
+  });
+  control_->NewTable();
+  EXPECT_TRUE(control_->CanModifyTable());
+  EXPECT_EQ(Cells(), "....|....");
+  ExpectUndoable(plain);
+}
+
+TEST_F(RichTextCommandsTest, RowsAndColumnsComeAndGo) {
+  const std::pair<const char*, std::string> commands[] = {
+      {"row-insert", "ab|..|cd"},
+      {"column-insert", "a.b|c.d"},
+      {"row-delete", "ab"},
+      {"column-delete", "a|c"},
+  };
+  for (const auto& [command, expected] : commands) {
+    control_->SetText("x");
+    PutLetters(2, 2);
+    RichEditor& editor = control_->Editor();
+    editor.SetFocusObject(CaretCell(editor).table->GetCell(1, 1));
+    Settle();
+    const std::string before = Stored();
+    RunCommand(*control_, CommandOf(command));
+    EXPECT_EQ(Cells(), expected);
+    ExpectUndoable(before);
+    // Keys go on in the main text after the cell is gone.
+    Type("y");
+    Events();
+  }
+}
+
+TEST_F(RichTextCommandsTest, TheLastRowAndColumnStay) {
+  PutLetters(1, 1);
+  control_->DeleteRow();
+  control_->DeleteColumn();
+  EXPECT_EQ(Cells(), "a");
+  control_->SetLocked(true);
+  EXPECT_FALSE(control_->CanModifyTable());
+}
+
+TEST_F(RichTextCommandsTest, TheCaretNeverStaysInACellThatIsGone) {
+  const std::string empty = Stored();
+  for (const int way : {0, 1, 2, 3, 4}) {
+    control_->SetText("text");
+    PutLetters(3, 3);
+    if (way == 0) control_->SetText("new");
+    if (way == 1) control_->Content().Load(empty);
+    if (way == 2) control_->Editor().Clear();
+    if (way == 3) {
+      for (int i = 0; i < 40 && control_->Editor().CanUndo(); ++i) control_->Undo();
+    }
+    if (way == 4) {
+      static_cast<TXControl*>(control_)->SelectAll();
+      control_->Clip(kClipDelete);
+    }
+    Settle();
+    EXPECT_FALSE(control_->CanModifyTable()) << way;
+    Type("x");
+    Press(WXK_BACK);
+    control_->SetText("again");
+    EXPECT_EQ(Text(), "again");
+  }
+}
+
+TEST_F(RichTextCommandsTest, TablePropertiesSetWidthBordersAndSpace) {
+  PutLetters(2, 2);
+  const std::string before = Stored();
+  ModalDriver modal;
+  modal.ExpectForm("frmRichTable", [](User& user) {
+    EXPECT_EQ(In<wxSpinCtrl>(user, "spnWidth").GetValue(), 100);
+    EXPECT_TRUE(user.IsChecked("chkBorder"));
+    In<wxSpinCtrl>(user, "spnWidth").SetValue(40);
+    In<wxSpinCtrlDouble>(user, "spnPadding").SetValue(3.5);
+    user.Check("chkBorder", false);
+    user.Click("cmdOK");
+  });
+  control_->TableProperties();
+  EXPECT_THAT(Stored(), AllOf(HasSubstr("width=\"40,"), HasSubstr("padding-left=\"35,"),
+                              HasSubstr("border-left-style=\"0\"")));
+  ExpectUndoable(before);
+}
+
+TEST_F(RichTextCommandsTest, ClipMovesTextWithItsFormats) {
+  PutLines();
+  Press('B', wxMOD_CONTROL);
+  control_->Clip(kClipCopy);
+  control_->SetSelStart(0);
+  control_->Clip(kClipPaste);
+  EXPECT_EQ(Text(), "twoone\ntwo\nthree");
+  EXPECT_THAT(Stored(), HasSubstr("fontweight=\"700\">\"two\""));
+  control_->SetSelStart(0);
+  control_->SetSellength(3);
+  control_->Clip(kClipCut);
+  EXPECT_EQ(Text(), "one\ntwo\nthree");
+  control_->Clip(kClipPaste);
+  control_->SetSelStart(0);
+  control_->SetSellength(3);
+  control_->Clip(kClipDelete);
+  EXPECT_EQ(Text(), "one\ntwo\nthree");
+  control_->Undo();
+  EXPECT_EQ(Text(), "twoone\ntwo\nthree");
+}
+
+TEST_F(RichTextCommandsTest, TheButtonBarShowsWhatHoldsAtTheCaret) {
+  PutLines();
+  const auto tool = [&](const char* bar, int position) -> wxToolBarToolBase* {
+    return user_->Find<wxToolBar>(bar).FindById(user_->Find<wxToolBar>(bar).GetToolByPos(position)->GetId());
+  };
+  user_->Find<wxToolBar>("tbr-bold");
+  const int bold = tool("tbr-bold", 0)->GetId();
+  EXPECT_FALSE(user_->Find<wxToolBar>("tbr-bold").GetToolState(bold));
+  EXPECT_EQ(tool("tbr-bold", 0)->GetShortHelp(), "Bold");
+  Press('B', wxMOD_CONTROL);
+  EXPECT_TRUE(user_->Find<wxToolBar>("tbr-bold").GetToolState(bold));
+  control_->SetSelStart(0);
+  Settle();
+  EXPECT_FALSE(user_->Find<wxToolBar>("tbr-bold").GetToolState(bold));
+  control_->SetSelStart(4);
+  control_->SetSellength(3);
+  wxCommandEvent event(wxEVT_TOOL, bold);
+  user_->Find<wxToolBar>("tbr-bold").HandleWindowEvent(event);
+  EXPECT_THAT(Stored(), Not(HasSubstr("fontweight=\"700\"")));
+  user_->Choose("cboStyle", "Heading 1");
+  EXPECT_THAT(Stored(), HasSubstr("parstyle=\"Heading 1\""));
+  user_->Choose("cboSize", "24");
+  EXPECT_THAT(Stored(), HasSubstr("fontpointsize=\"24\""));
+  control_->SetLocked(true);
+  EXPECT_FALSE(user_->IsEnabled("cboStyle"));
+  EXPECT_FALSE(user_->Find<wxToolBar>("tbr-bold").GetToolEnabled(bold));
+}
+
+}  // namespace
+}  // namespace mindloft::test
