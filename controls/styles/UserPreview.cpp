@@ -138,6 +138,10 @@ void UserPreview::InsertText(const wxRichTextAttr& look) {
   picPreview->WriteText(text);
   // Written in a style, the last paragraph would not take part in it.
   picPreview->SetStyleEx(picPreview->GetBuffer().GetOwnRange(), look, wxRICHTEXT_SETSTYLE_NONE);
+  // The lines were broken as the text stood before.
+  picPreview->GetBuffer().Invalidate(wxRICHTEXT_ALL);
+  picPreview->LayoutContent();
+  picPreview->Refresh();
   picPreview->ShowPosition(0);
 }
 

@@ -126,6 +126,19 @@ TEST_F(UserPreviewTest, AFontThatIsNotInstalledIsToldAndNothingIsDrawn) {
   EXPECT_TRUE(FaceOfStyleFont(fonts.back()));
 }
 
+TEST_F(UserPreviewTest, EachStyleIsLaidOutAnew) {
+  preview_->SetPreviewText("one line\r\nand another");
+  const auto place = [this](long position) {
+    Settle();
+    return Box().GetBuffer().GetLineAtPosition(position)->GetAbsolutePosition();
+  };
+  preview_->Preview(StyleOf({.fontSize = 8}));
+  const wxPoint first = place(0), second = place(9);
+  preview_->Preview(StyleOf({.fontSize = 24, .leftIndent = "5", .spaceAfter = "2"}));
+  EXPECT_GT(place(0).x, first.x + 20);
+  EXPECT_GT(place(9).y - place(0).y, 3 * (second.y - first.y));
+}
+
 TEST_F(UserPreviewTest, NumericTextsBecomeIntegers) {
   for (const auto& [text, expected] : {std::pair{"", 0},
                                        {"7", 7},

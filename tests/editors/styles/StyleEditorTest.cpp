@@ -4,10 +4,14 @@
 #include <wx/combobox.h>
 
 #include "backend/corvane/StyleXml.h"
+#include "backend/tessaline/Services.h"
+#include "controls/styles/frmStyleSelect.h"
 #include "controls/texts/UseTextBox.h"
 #include "editors/styles/frmStyleDetail.h"
 #include "editors/styles/frmStyles.h"
 #include "tests/editors/styles/StylesFixture.h"
+#include "tests/support/gui/FormLooks.h"
+#include "tests/support/gui/ShownTexts.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -219,6 +223,30 @@ TEST_F(StyleEditorTest, TheListAddsChangesAndRemoves) {
     forest->Update();
     user.Click("cmdClose");
   });
+}
+
+TEST_F(StyleEditorTest, TheFormsFitInEveryLanguage) {
+  const auto look = [](const char* leave, std::size_t least) {
+    return [=](User& user) {
+      const auto& form = dynamic_cast<const wxTopLevelWindow&>(user.Form());
+      InEveryLanguage([&] {
+        SCOPED_TRACE(GetResource().CurrentLanguage());
+        ExpectFits(form);
+        ExpectTextsOfLanguage(form, least);
+      });
+      user.Click(leave);
+    };
+  };
+  // Its name, which belongs to the directory, is also a word of the program.
+  const auto quotation = StyleOf("Quotation")->Stored();
+  Server().Styles()->Delete({quotation.id, quotation.version});
+  modal_.ExpectForm("frmStyleSelect", look("CmdCancel", 5));
+  frmStyleSelect(nullptr).Display(nullptr, true);
+  OpenStyles(look("cmdClose", 8));
+  Edit(StyleOf("Notice"), look("cmdCancel", 20));
+  auto missing = StyleOf("Paper");
+  missing->SetFormat({.fontName = kMissing});
+  Edit(missing, look("cmdCancel", 20));
 }
 
 TEST_F(StyleEditorTest, WithoutTheRightStylesAreOnlyLookedAt) {
