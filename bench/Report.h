@@ -11,15 +11,19 @@ namespace mindloft::bench {
 /// the same time.
 inline bool measuresProcessorTime = false;
 
+/// The time now, from some beginning.
+inline double NowMilliseconds() {
+  if (measuresProcessorTime) return static_cast<double>(std::clock()) * 1000 / CLOCKS_PER_SEC;
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration<double, std::milli>(now).count();
+}
+
 /// Milliseconds that `work` takes.
 template <typename Work>
 double Milliseconds(Work work) {
-  auto start = std::chrono::steady_clock::now();
-  auto processorStart = std::clock();
+  const auto start = NowMilliseconds();
   work();
-  if (measuresProcessorTime)
-    return static_cast<double>(std::clock() - processorStart) * 1000 / CLOCKS_PER_SEC;
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+  return NowMilliseconds() - start;
 }
 
 /// The value that the given share (0 to 1) of the values does not exceed. Not for no values.

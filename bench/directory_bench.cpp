@@ -10,6 +10,7 @@
 #include "backend/errors/Error.h"
 #include "bench/ChangeBench.h"
 #include "bench/FillBench.h"
+#include "bench/LanguageBench.h"
 #include "bench/ReadBench.h"
 
 int main(int count, char** arguments) try {
@@ -23,6 +24,7 @@ int main(int count, char** arguments) try {
   if (!std::filesystem::exists(file)) bench::MeasureFilling(folder, users, report);
   bench::MeasureReading(file, report);
   bench::MeasureChanging(file, report);
+  bench::MeasureLanguages(file, report);
   return report.Passed() ? EXIT_SUCCESS : EXIT_FAILURE;
 } catch (...) {
   std::fprintf(stderr, "%s\n", mindloft::CurrentError().what());

@@ -1,5 +1,5 @@
 # The libraries that the program stands on: Debian's packages natively, the ones that
-# scripts/windows-libs.sh builds for Windows.
+# scripts/windows-libs.sh and scripts/windows-icu.sh build for Windows.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -47,6 +47,13 @@ if(WIN32)
   target_link_libraries(mindloft_utf8proc INTERFACE ${libs}/lib/libutf8proc.a)
   add_library(mindloft_gcrypt INTERFACE)
   target_link_libraries(mindloft_gcrypt INTERFACE gcrypt gpg-error ws2_32)
+  # Built when it is not there yet: some minutes, once.
+  execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/windows-icu.sh OUTPUT_VARIABLE icu OUTPUT_STRIP_TRAILING_WHITESPACE
+                  COMMAND_ERROR_IS_FATAL ANY)
+  add_library(mindloft_icu INTERFACE)
+  target_include_directories(mindloft_icu SYSTEM INTERFACE ${icu}/include)
+  target_compile_definitions(mindloft_icu INTERFACE U_STATIC_IMPLEMENTATION)
+  target_link_libraries(mindloft_icu INTERFACE ${icu}/lib/libicu-i18n.a ${icu}/lib/libicu-common.a ${icu}/lib/libicu-data.a)
   add_library(mindloft_glib INTERFACE)
 else()
   find_package(PkgConfig REQUIRED)
@@ -67,6 +74,9 @@ else()
   pkg_check_modules(gcrypt REQUIRED IMPORTED_TARGET libgcrypt)
   add_library(mindloft_gcrypt INTERFACE)
   target_link_libraries(mindloft_gcrypt INTERFACE PkgConfig::gcrypt)
+  pkg_check_modules(icu REQUIRED IMPORTED_TARGET icu-i18n)
+  add_library(mindloft_icu INTERFACE)
+  target_link_libraries(mindloft_icu INTERFACE PkgConfig::icu)
   # The tests listen to the messages of the desktop's toolkit, which are this library's.
   pkg_check_modules(glib REQUIRED IMPORTED_TARGET glib-2.0)
   add_library(mindloft_glib INTERFACE)

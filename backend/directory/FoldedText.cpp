@@ -44,21 +44,43 @@ std::string WithoutBrokenBytes(std::string_view text) {
   return clean;
 }
 
+constexpr auto kCompatible =
+    static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE | UTF8PROC_COMPAT);
+
+/// The text, which must be whole UTF-8, mapped with these options.
+std::string Mapped(std::string_view utf8, utf8proc_option_t options) {
+  utf8proc_uint8_t* mapped = nullptr;
+  auto length = utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(utf8.data()),
+                             static_cast<utf8proc_ssize_t>(utf8.size()), &mapped, options);
+  std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(mapped, &std::free);
+  if (length == UTF8PROC_ERROR_NOMEM) throw std::bad_alloc();
+  if (length < 0) throw Error(ErrorNumber::Unexpected, utf8proc_errmsg(length));
+  return std::string(reinterpret_cast<const char*>(mapped), static_cast<std::size_t>(length));
+}
+
+void ReplaceAll(std::string& text, std::string_view what, std::string_view with) {
+  for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + with.size())) {
+    text.replace(at, what.size(), with);
+  }
+}
+
 }  // namespace
 
 std::string FoldedText(std::string_view utf8) {
   // Most names are ASCII, where folding is lower case and nothing else.
   if (IsAscii(utf8)) return LowerAscii(utf8);
-  std::string clean = WithoutBrokenBytes(utf8);
-  constexpr auto kOptions = static_cast<utf8proc_option_t>(
-      UTF8PROC_STABLE | UTF8PROC_COMPOSE | UTF8PROC_COMPAT | UTF8PROC_CASEFOLD | UTF8PROC_IGNORE);
-  utf8proc_uint8_t* folded = nullptr;
-  auto length = utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(clean.data()),
-                             static_cast<utf8proc_ssize_t>(clean.size()), &folded, kOptions);
-  std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(folded, &std::free);
-  if (length == UTF8PROC_ERROR_NOMEM) throw std::bad_alloc();
-  if (length < 0) throw Error(ErrorNumber::Unexpected, utf8proc_errmsg(length));
-  return std::string(reinterpret_cast<const char*>(folded), static_cast<std::size_t>(length));
+  return Mapped(WithoutBrokenBytes(utf8),
+                static_cast<utf8proc_option_t>(kCompatible | UTF8PROC_CASEFOLD | UTF8PROC_IGNORE));
+}
+
+std::string FoldedText(std::string_view utf8, Folding folding) {
+  if (folding == Folding::Neutral) return FoldedText(utf8);
+  std::string text(utf8);
+  // A dot above a capital I, and an I of another width, are the letters themselves only when composed.
+  if (!IsAscii(text)) text = Mapped(WithoutBrokenBytes(text), kCompatible);
+  ReplaceAll(text, "\xC4\xB0", "i");  // İ
+  ReplaceAll(text, "I", "\xC4\xB1");  // ı
+  return FoldedText(text);
 }
 
 }  // namespace mindloft

@@ -28,6 +28,17 @@ void SqliteDirectoryImpl::Logout(SessionId session) {
   sessions_.Logout(session);
 }
 
+void SqliteDirectoryImpl::SetLanguage(SessionId session, int language, const Progress& progress) {
+  const LanguageRules rules = RulesOf(language);
+  Read(session, [](const Caller&) {});
+  try {
+    if (!index_.Has(rules)) index_.Build(rules, progress);
+    sessions_.SetRules(session, rules);
+  } catch (...) {
+    throw CurrentError();
+  }
+}
+
 UserRecord SqliteDirectoryImpl::CurrentUser(SessionId session) {
   return Read(session, [&](const Caller& caller) { return users_.Find(caller.user).value(); });
 }

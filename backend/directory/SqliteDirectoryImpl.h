@@ -31,6 +31,7 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
   SessionId Login(std::string_view name, std::string_view password) override;
   void PrepareLogin(std::string_view name, std::string_view password) override;
   void Logout(SessionId session) override;
+  void SetLanguage(SessionId session, int language, const Progress& progress) override;
   UserRecord CurrentUser(SessionId session) override;
   std::uint32_t SysPrivileges(SessionId session, ObjectId user) override;
   std::uint32_t DomainPrivileges(SessionId session, ObjectId domain) override;
@@ -85,15 +86,27 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
   DirectoryInfo Info() override;
 
  private:
-  /// Runs `work(caller)` on one state of the file.
+  /// Runs `work(caller)` on one state of the file. Orders that are missing are made first: SetLanguage did
+  /// so, but a program with another edition of their rules takes them out when it changes users.
   template <typename Work>
   auto Read(SessionId session, Work work) {
     try {
-      sqlite::Snapshot snapshot(*database_);
-      return work(sessions_.Require(session));
+      try {
+        return ReadOnce(session, work);
+      } catch (const OrdersMissing& missing) {
+        index_.Build(missing.rules, {});
+      }
+      return ReadOnce(session, work);
+    } catch (const OrdersMissing&) {
+      throw Error(ErrorNumber::DirectoryBusy, "another program takes the orders out");
     } catch (...) {
       throw CurrentError();
     }
+  }
+  template <typename Work>
+  auto ReadOnce(SessionId session, Work& work) {
+    sqlite::Snapshot snapshot(*database_);
+    return work(sessions_.Require(session));
   }
   /// Runs `work(caller)` in a transaction that is on the disk when this returns.
   template <typename Work>
@@ -114,7 +127,8 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
     }
   }
   /// The identifiers of a page of any collection but the journal.
-  std::vector<ObjectId> PageIds(const Query& query, RecordKind kind, std::int64_t first, std::int64_t count);
+  std::vector<ObjectId> PageIds(const Caller& caller, const Query& query, RecordKind kind, std::int64_t first,
+                                std::int64_t count);
   /// The journal is read by those who hold the right only.
   void RequireReadable(const Caller& caller, Collection collection);
 

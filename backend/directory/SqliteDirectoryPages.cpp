@@ -7,51 +7,57 @@ void SqliteDirectoryImpl::RequireReadable(const Caller& caller, Collection colle
   if (KindOf(collection) == RecordKind::Journal) rights_.Require(caller, ReadJournal);
 }
 
-std::vector<ObjectId> SqliteDirectoryImpl::PageIds(const Query& query, RecordKind kind, std::int64_t first,
-                                                   std::int64_t count) {
+std::vector<ObjectId> SqliteDirectoryImpl::PageIds(const Caller& caller, const Query& query, RecordKind kind,
+                                                   std::int64_t first, std::int64_t count) {
   RequireKind(query.collection, kind);
   if (first < 0 || count <= 0) return {};
-  return kind == RecordKind::User ? index_.Page(query, first, count) : windows_.Page(query, first, count);
+  return kind == RecordKind::User ? index_.Page(query, first, count, caller.rules)
+                                  : windows_.Page(query, first, count, caller.rules);
 }
 
 std::int64_t SqliteDirectoryImpl::Count(SessionId session, const Query& query) {
   return Read(session, [&](const Caller& caller) {
     RequireReadable(caller, query.collection);
     RecordKind kind = KindOf(query.collection);
-    if (kind == RecordKind::User) return index_.Count(query);
+    if (kind == RecordKind::User) return index_.Count(query, caller.rules);
     if (kind == RecordKind::Journal && query.filter.empty()) return journal_.Count();
-    return windows_.Count(query);
+    return windows_.Count(query, caller.rules);
   });
 }
 
 std::vector<UserRecord> SqliteDirectoryImpl::UserPage(SessionId session, const Query& query,
                                                       std::int64_t first, std::int64_t count) {
-  return Read(session,
-              [&](const Caller&) { return users_.Read(PageIds(query, RecordKind::User, first, count)); });
+  return Read(session, [&](const Caller& caller) {
+    return users_.Read(PageIds(caller, query, RecordKind::User, first, count));
+  });
 }
 
 std::vector<RoleRecord> SqliteDirectoryImpl::RolePage(SessionId session, const Query& query,
                                                       std::int64_t first, std::int64_t count) {
-  return Read(session,
-              [&](const Caller&) { return roles_.Read(PageIds(query, RecordKind::Role, first, count)); });
+  return Read(session, [&](const Caller& caller) {
+    return roles_.Read(PageIds(caller, query, RecordKind::Role, first, count));
+  });
 }
 
 std::vector<DomainRecord> SqliteDirectoryImpl::DomainPage(SessionId session, const Query& query,
                                                           std::int64_t first, std::int64_t count) {
-  return Read(session,
-              [&](const Caller&) { return domains_.Read(PageIds(query, RecordKind::Domain, first, count)); });
+  return Read(session, [&](const Caller& caller) {
+    return domains_.Read(PageIds(caller, query, RecordKind::Domain, first, count));
+  });
 }
 
 std::vector<GroupRecord> SqliteDirectoryImpl::GroupPage(SessionId session, const Query& query,
                                                         std::int64_t first, std::int64_t count) {
-  return Read(session,
-              [&](const Caller&) { return groups_.Read(PageIds(query, RecordKind::Group, first, count)); });
+  return Read(session, [&](const Caller& caller) {
+    return groups_.Read(PageIds(caller, query, RecordKind::Group, first, count));
+  });
 }
 
 std::vector<StyleRecord> SqliteDirectoryImpl::StylePage(SessionId session, const Query& query,
                                                         std::int64_t first, std::int64_t count) {
-  return Read(session,
-              [&](const Caller&) { return styles_.Read(PageIds(query, RecordKind::Style, first, count)); });
+  return Read(session, [&](const Caller& caller) {
+    return styles_.Read(PageIds(caller, query, RecordKind::Style, first, count));
+  });
 }
 
 std::vector<JournalRecord> SqliteDirectoryImpl::JournalPage(SessionId session, const Query& query,
@@ -62,7 +68,7 @@ std::vector<JournalRecord> SqliteDirectoryImpl::JournalPage(SessionId session, c
       RequireKind(query.collection, RecordKind::Journal);
       return first < 0 || count <= 0 ? std::vector<JournalRecord>() : journal_.Page(first, count);
     }
-    return journal_.Read(PageIds(query, RecordKind::Journal, first, count));
+    return journal_.Read(PageIds(caller, query, RecordKind::Journal, first, count));
   });
 }
 
@@ -70,8 +76,9 @@ std::int64_t SqliteDirectoryImpl::FindPrefix(SessionId session, const Query& que
                                              std::int64_t from) {
   return Read(session, [&](const Caller& caller) {
     RequireReadable(caller, query.collection);
-    return KindOf(query.collection) == RecordKind::User ? index_.FindPrefix(query, prefix, from)
-                                                        : windows_.FindPrefix(query, prefix, from);
+    return KindOf(query.collection) == RecordKind::User
+               ? index_.FindPrefix(query, prefix, from, caller.rules)
+               : windows_.FindPrefix(query, prefix, from, caller.rules);
   });
 }
 
@@ -79,9 +86,9 @@ std::int64_t SqliteDirectoryImpl::PositionOf(SessionId session, const Query& que
   return Read(session, [&](const Caller& caller) {
     RequireReadable(caller, query.collection);
     RecordKind kind = KindOf(query.collection);
-    if (kind == RecordKind::User) return index_.PositionOf(query, object);
+    if (kind == RecordKind::User) return index_.PositionOf(query, object, caller.rules);
     if (kind == RecordKind::Journal && query.filter.empty()) return journal_.PositionOf(object);
-    return windows_.PositionOf(query, object);
+    return windows_.PositionOf(query, object, caller.rules);
   });
 }
 

@@ -48,5 +48,24 @@ TEST(FoldedText, MakesNoDifferenceOfCaseWidthCompositionAndInvisibleCharacters) 
   }
 }
 
+TEST(FoldedText, TakesTheTurkishLettersForWhatTheyAre) {
+  struct Case {
+    const char* what;
+    std::string text, folded;
+  };
+  const Case cases[] = {
+      {"dotted", "İSTANBUL istanbul", "istanbul istanbul"},
+      {"dotless", "ISPARTA ısparta", "ısparta ısparta"},
+      {"a dot above of its own", "I\xCC\x87zmir", "izmir"},
+      {"full-width letters", "ＩＤ", "ıd"},
+      {"sharp s and accents as elsewhere", "Straße CAFE\xCC\x81", "strasse café"},
+      {"broken byte", "I\xFF", "ı\xEF\xBF\xBD"},
+  };
+  for (const auto& [what, text, folded] : cases) {
+    EXPECT_EQ(FoldedText(text, Folding::Turkish), folded) << what;
+    EXPECT_EQ(FoldedText(folded, Folding::Turkish), folded) << what << ", folded twice";
+  }
+}
+
 }  // namespace
 }  // namespace mindloft

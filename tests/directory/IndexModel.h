@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "backend/directory/Query.h"
+#include "backend/directory/collation/LanguageRules.h"
 #include "backend/directory/sqlite/Database.h"
 
 namespace mindloft::test {
@@ -23,8 +24,9 @@ struct IndexModel {
   std::map<ObjectId, std::vector<ObjectId>> domainUsers, groupMembers, roleMembers;
   std::map<ObjectId, ObjectId> domainOfGroup;
 
-  std::vector<ObjectId> Rows(const Query& query) const;
-  std::int64_t FindPrefix(const Query& query, const std::string& prefix, std::int64_t from) const;
+  std::vector<ObjectId> Rows(const Query& query, LanguageRules rules = LanguageRules::Neutral) const;
+  std::int64_t FindPrefix(const Query& query, const std::string& prefix, std::int64_t from,
+                          LanguageRules rules = LanguageRules::Neutral) const;
 
  private:
   bool InCollection(const Query& query, ObjectId user) const;

@@ -50,6 +50,20 @@ class IndexTest : public testing::Test {
                                           "'",
                                           "\"",
                                           "😀",
+                                          "I",
+                                          "İ",
+                                          "i",
+                                          "ı",
+                                          "ç",
+                                          "Ö",
+                                          "王",
+                                          "カ",
+                                          "が",
+                                          "ー",
+                                          "ا",
+                                          "ب",
+                                          "-",
+                                          "\xEF\xBF\xBF",
                                           "long enough to fill a register"};
     std::string text;
     for (auto count = random_() % 4; count > 0; --count) text += Pick(kPieces);
@@ -147,25 +161,35 @@ class IndexTest : public testing::Test {
     return query;
   }
 
+  /// Sorts them all, as their first uses do one by one.
+  void BuildAllRules() {
+    for (auto rules : kLanguageRules) index_.Build(rules, {});
+  }
+
   void ExpectAgreement(UserIndex& index, const Query& query) {
-    SCOPED_TRACE(testing::Message() << "collection " << int(query.collection) << " scope " << query.scope
-                                    << " order " << int(query.order) << " descending " << query.descending
-                                    << " filter " << testing::PrintToString(query.filter));
-    const auto rows = model_.Rows(query);
+    ExpectAgreement(index, query, LanguageRules::Neutral);
+  }
+  void ExpectAgreement(UserIndex& index, const Query& query, LanguageRules rules) {
+    SCOPED_TRACE(testing::Message() << "rules " << int(rules) << " collection " << int(query.collection)
+                                    << " scope " << query.scope << " order " << int(query.order)
+                                    << " descending " << query.descending << " filter "
+                                    << testing::PrintToString(query.filter));
+    const auto rows = model_.Rows(query, rules);
     const auto count = std::ssize(rows);
-    ASSERT_EQ(index.Count(query), count);
-    ASSERT_EQ(index.Page(query, 0, count + 1), rows);
+    ASSERT_EQ(index.Count(query, rules), count);
+    ASSERT_EQ(index.Page(query, 0, count + 1, rules), rows);
     const auto first = static_cast<std::int64_t>(random_() % static_cast<unsigned>(count + 2));
     const auto end = std::min<std::int64_t>(first + 7, count);
     const std::vector<ObjectId> page(rows.begin() + std::min(first, count),
                                      rows.begin() + std::max(std::min(first, count), end));
-    EXPECT_EQ(index.Page(query, first, 7), page);
+    EXPECT_EQ(index.Page(query, first, 7, rules), page);
     const auto prefix = RandomText();
-    EXPECT_EQ(index.FindPrefix(query, prefix, first), model_.FindPrefix(query, prefix, first)) << prefix;
+    EXPECT_EQ(index.FindPrefix(query, prefix, first, rules), model_.FindPrefix(query, prefix, first, rules))
+        << prefix;
     if (model_.users.empty()) return;
     const auto user = AnyUser();
     const auto at = std::find(rows.begin(), rows.end(), user);
-    EXPECT_EQ(index.PositionOf(query, user), at == rows.end() ? -1 : at - rows.begin());
+    EXPECT_EQ(index.PositionOf(query, user, rules), at == rows.end() ? -1 : at - rows.begin());
   }
 
   test::TemporaryFolder folder_;
@@ -187,16 +211,22 @@ class IndexModelTest : public IndexTest {
   }
 };
 
-TEST_F(IndexModelTest, AnswersAsAPlainSearchWould) {
+TEST_F(IndexModelTest, AnswersAsAPlainSearchWouldByTheRulesOfEveryLanguage) {
   for (int round = 0; round < 600; ++round) {
+    // From then on the changes keep one more.
+    if (round % 40 == 0 && round / 40 < std::ssize(kLanguageRules)) {
+      index_.Build(kLanguageRules[static_cast<std::size_t>(round / 40)], {});
+    }
+    const auto built = std::min<std::size_t>(static_cast<std::size_t>(round) / 40 + 1, kLanguageRules.size());
+    auto anyRules = [&] { return kLanguageRules[random_() % built]; };
     {
       sqlite::Transaction transaction(database_);
       for (auto changes = 1 + random_() % 3; changes > 0; --changes) RandomChange();
       // Within the change, too.
-      if (round % 10 == 0) ExpectAgreement(index_, RandomQuery());
+      if (round % 10 == 0) ExpectAgreement(index_, RandomQuery(), anyRules());
       transaction.Commit();
     }
-    for (int i = 0; i < 3; ++i) ExpectAgreement(index_, RandomQuery());
+    for (int i = 0; i < 3; ++i) ExpectAgreement(index_, RandomQuery(), anyRules());
     if (round % 200 == 199) {
       EXPECT_EQ(index_.Check(), std::vector<std::string>());
     }
@@ -211,12 +241,13 @@ TEST_F(IndexModelTest, AnswersAsAPlainSearchWould) {
 }
 
 TEST_F(IndexTest, RemovesOneAndManyFromManyBlocks) {
+  BuildAllRules();
   sqlite::Transaction transaction(database_);
   for (ObjectId id = 1; id <= 1500; ++id) Add(RandomUser(id));
   // One is searched for, many are sifted out of all blocks.
   for (const std::size_t count : {1u, 30u, 2u, 400u, 1u, 700u}) {
     Remove(AnyUsers(count));
-    ExpectAgreement(index_, {});
+    for (auto rules : {LanguageRules::Neutral, LanguageRules::Turkish}) ExpectAgreement(index_, {}, rules);
     ASSERT_EQ(index_.Check(), std::vector<std::string>());
   }
   const auto left = model_.users.size();
@@ -233,8 +264,8 @@ TEST_F(IndexTest, RefusesToRemoveManyFromDamagedOrders) {
   for (ObjectId id = 1; id <= 40; ++id) Add(RandomUser(id));
   // In a block of the first order, somebody who is no user has taken a user's place.
   database_.Execute(
-      "UPDATE user_order_block SET users=substr(users,5)||x'0f270000' "
-      "WHERE id=(SELECT min(id) FROM user_order_block WHERE length(users)>4)");
+      "UPDATE user_sorting_block SET users=substr(users,5)||x'0f270000' "
+      "WHERE id=(SELECT min(id) FROM user_sorting_block WHERE length(users)>4)");
   EXPECT_THROW(index_.Remove(AnyUsers(40)), Error);
 }
 
@@ -270,7 +301,7 @@ TEST_F(IndexTest, BuildsTheSameAnewAsStepByStep) {
   }
   EXPECT_EQ(index_.Check(), std::vector<std::string>());
   database_.Execute(
-      "UPDATE user_text SET texts=x'00' WHERE chunk=1; DELETE FROM user_order_block WHERE id=3");
+      "UPDATE user_folded SET texts=x'00' WHERE chunk=1; DELETE FROM user_sorting_block WHERE id=3");
   EXPECT_THROW(index_.Count({.filter = "a"}), Error);
   EXPECT_THROW(index_.Page({}, 0, 10000), Error);
   {
@@ -291,14 +322,19 @@ TEST_F(IndexTest, CheckNamesEveryDifference) {
   };
   const Damage damages[] = {
       {"UPDATE user SET full_name='other' WHERE id=7", "search texts in block 0 differ"},
-      {"DELETE FROM user_text WHERE chunk=1", "search texts in block 1 differ"},
-      {"INSERT INTO user_text VALUES(900,x'')", "3 blocks instead of 2"},
+      {"DELETE FROM user_folded WHERE chunk=1", "search texts in block 1 differ"},
+      {"INSERT INTO user_folded VALUES(900,x'')", "3 blocks instead of 2"},
       {"DELETE FROM user WHERE id=7", "by description is wrong"},
-      {"UPDATE user_order_block SET users=zeroblob(length(users)) WHERE id=0", "by name is wrong"},
-      {"UPDATE user_order_block SET users=x'' WHERE id=0", "by name cannot be read"},
-      {"DELETE FROM user_order WHERE ord=1", "by full name is wrong: it holds 0 of 300"},
-      {"INSERT INTO user_order_block VALUES(999999,x'')", "not listed"},
+      {"UPDATE user_sorting_block SET users=zeroblob(length(users)) WHERE id=0", "by name is wrong"},
+      {"UPDATE user_sorting_block SET users=x'' WHERE id=0", "by name cannot be read"},
+      {"DELETE FROM user_sorting WHERE id=1", "by full name is wrong: it holds 0 of 300"},
+      {"INSERT INTO user_sorting_block VALUES(999999,x'')", "not listed"},
+      {"DELETE FROM user_sorting WHERE id=4*256+2", "by description (Turkish) is wrong: it holds 0 of 300"},
+      {"UPDATE user_folded SET texts=x'' WHERE chunk=4294967296",
+       "The Turkish search texts in block 0 differ"},
+      {"DELETE FROM user_rules WHERE id=4", "The Turkish search texts have 2 blocks instead of 0"},
   };
+  BuildAllRules();
   sqlite::Transaction transaction(database_);
   for (ObjectId id = 1; id <= 300; ++id) Add(RandomUser(id));
   for (const auto& [sql, fault] : damages) {

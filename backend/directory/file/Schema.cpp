@@ -101,12 +101,20 @@ CREATE TABLE journal (
 CREATE INDEX journal_object ON journal (object, kind);
 )sql";
 
+// The orders and search texts of the users: one order for all languages.
+constexpr const char* kFirstIndex = R"sql(
+CREATE TABLE user_text(chunk INTEGER PRIMARY KEY, texts BLOB NOT NULL);
+CREATE TABLE user_order(ord INTEGER PRIMARY KEY, blocks BLOB NOT NULL);
+CREATE TABLE user_order_block(id INTEGER PRIMARY KEY, users BLOB NOT NULL);
+)sql";
+
 void CreateFirstSchema(sqlite::Database& database) {
   database.Execute(kTables);
-  UserIndex::CreateTables(database);
+  database.Execute(kFirstIndex);
 }
 
-constexpr Migration kMigrations[] = {{1, CreateFirstSchema}, {2, RenewStartingStyles}};
+constexpr Migration kMigrations[] = {
+    {1, CreateFirstSchema}, {2, RenewStartingStyles}, {3, UserIndex::UpgradeTables}};
 
 }  // namespace
 

@@ -23,8 +23,9 @@ struct FoldedUser {
   std::array<std::string, kOrders.size()> keys;
   bool operator==(const FoldedUser&) const = default;
 
-  static FoldedUser Of(std::string_view name, std::string_view fullName, std::string_view description) {
-    return {{FoldedText(name), FoldedText(fullName), FoldedText(description)}};
+  static FoldedUser Of(std::string_view name, std::string_view fullName, std::string_view description,
+                       Folding folding = Folding::Neutral) {
+    return {{FoldedText(name, folding), FoldedText(fullName, folding), FoldedText(description, folding)}};
   }
 };
 

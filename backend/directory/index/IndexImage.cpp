@@ -1,26 +1,13 @@
 #include "backend/directory/index/IndexImage.h"
 
-#include <algorithm>
-#include <span>
-
+#include "backend/directory/index/KeySorter.h"
 #include "backend/directory/index/OrderBlocks.h"
 #include "backend/directory/index/Packed.h"
+#include "backend/directory/index/SearchTexts.h"
+#include "backend/directory/index/StoredRules.h"
 #include "backend/directory/index/TextChunk.h"
 
 namespace mindloft {
-namespace {
-
-/// The first bytes of a key as a number that compares as they do.
-std::uint64_t StartOf(std::string_view key) {
-  std::uint64_t start = 0;
-  for (std::size_t i = 0; i < sizeof start; ++i) {
-    start = start << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
-  }
-  return start;
-}
-
-}  // namespace
-
 void IndexImage::Add(ObjectId id, const FoldedUser& user) {
   rows_.push_back({PackId(id), texts_.size()});
   TextChunk::AppendUser(texts_, user);
@@ -29,7 +16,8 @@ void IndexImage::Add(ObjectId id, const FoldedUser& user) {
 void IndexImage::AddStoredUsers(sqlite::Database& database) {
   auto select = database.Prepare("SELECT id,name,full_name,description FROM user ORDER BY id");
   while (select->Step()) {
-    Add(select->Int(0), FoldedUser::Of(select->TextView(1), select->TextView(2), select->TextView(3)));
+    Add(select->Int(0),
+        FoldedUser::Of(select->TextView(1), select->TextView(2), select->TextView(3), folding_));
   }
 }
 
@@ -54,46 +42,23 @@ void IndexImage::ForEachChunk(
   }
 }
 
-std::vector<PackedId> IndexImage::Sorted(Order order) const {
-  // Nearly all comparisons are decided by the first bytes, which lie side by side.
-  struct SortRow {
-    std::uint64_t start;
-    std::uint32_t row;
-  };
-  std::vector<SortRow> sorted(rows_.size());
-  for (std::size_t i = 0; i < sorted.size(); ++i) {
-    sorted[i] = {StartOf(Key(i, order)), static_cast<std::uint32_t>(i)};
-  }
-  std::sort(sorted.begin(), sorted.end(), [&](const SortRow& a, const SortRow& b) {
-    if (a.start != b.start) return a.start < b.start;
-    auto keyOfA = Key(a.row, order), keyOfB = Key(b.row, order);
-    return keyOfA != keyOfB ? keyOfA < keyOfB : a.row < b.row;  // rows ascend by identifier
-  });
-  std::vector<PackedId> ids;
-  ids.reserve(sorted.size());
-  for (const auto& row : sorted) ids.push_back(rows_[row.row].id);
-  return ids;
+std::vector<PackedId> IndexImage::Sorted(LanguageRules rules, Order order) const {
+  KeySorter sorter(rules, rows_.size());
+  for (std::size_t row = 0; row < rows_.size(); ++row) sorter.Add(rows_[row].id, Key(row, order));
+  return sorter.TakeSorted();
 }
 
 void IndexImage::Write(sqlite::Database& database, std::size_t blockSize) const {
-  database.Execute("DELETE FROM user_text");
-  auto insert = database.Prepare("INSERT INTO user_text(chunk,texts) VALUES(?,?)");
-  ForEachChunk([&](std::int64_t number, const std::string& stored) {
-    insert->Bind(0, number).BindBlob(1, stored).Run();
-  });
+  StoredRules stored(database);
+  stored.RemoveAll();
+  SearchTexts texts(database, folding_);
+  texts.RemoveAll();
+  ForEachChunk([&](std::int64_t number, const std::string& chunk) { texts.Write(number, chunk); });
   for (Order order : kOrders) {
-    OrderBlocks blocks(database, order);
-    blocks.RemoveAll();
-    std::vector<OrderBlock> map;
-    const auto sorted = Sorted(order);
-    for (std::span<const PackedId> rest = sorted; !rest.empty();) {
-      auto ids = rest.first(std::min(rest.size(), blockSize));
-      rest = rest.subspan(ids.size());
-      map.push_back({static_cast<std::uint32_t>(map.size()), static_cast<std::uint32_t>(ids.size())});
-      blocks.Write(map.back().number, ids);
-    }
-    blocks.WriteMap(map);
+    OrderBlocks(database, LanguageRules::Neutral, order)
+        .WriteAll(Sorted(LanguageRules::Neutral, order), blockSize);
   }
+  stored.Add(LanguageRules::Neutral);
 }
 
 }  // namespace mindloft

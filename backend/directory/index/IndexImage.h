@@ -16,6 +16,9 @@ namespace mindloft {
 /// the folded texts of all users while it lives, about 100 bytes for each.
 class IndexImage {
  public:
+  /// The folding of the users that are added; only rules of the same folding can sort them.
+  explicit IndexImage(Folding folding = Folding::Neutral) : folding_(folding) {}
+
   /// Users ascend by identifier.
   void Add(ObjectId id, const FoldedUser& user);
   /// Adds all users of the user table.
@@ -24,10 +27,10 @@ class IndexImage {
   /// Calls `visit` with the number and the stored form of each chunk of search texts, ascending.
   void ForEachChunk(const std::function<void(std::int64_t number, const std::string& stored)>& visit) const;
   /// All users in this order.
-  std::vector<PackedId> Sorted(Order order) const;
+  std::vector<PackedId> Sorted(LanguageRules rules, Order order) const;
 
-  /// Replaces the stored index; must run inside the caller's write transaction. `blockSize`: users in a
-  /// block of an order.
+  /// Replaces the stored index by that of the neutral rules; must run inside the caller's write transaction.
+  /// `blockSize`: users in a block of an order.
   void Write(sqlite::Database& database, std::size_t blockSize) const;
 
  private:
@@ -38,6 +41,7 @@ class IndexImage {
   std::string_view LineOf(std::size_t row) const;
   std::string_view Key(std::size_t row, Order order) const;
 
+  Folding folding_;
   std::string texts_;
   std::vector<Row> rows_;
 };

@@ -16,11 +16,12 @@ struct OrderBlock {
   std::uint32_t count = 0;
 };
 
-/// The stored form of one order. A block is a row of packed identifiers (table user_order_block); one row per
-/// order (table user_order) lists the blocks in order, so that a position is found without reading them.
+/// The stored form of one order by the rules of one language. A block is a row of packed identifiers (table
+/// user_sorting_block); one row per order (table user_sorting) lists the blocks in order, so that a position
+/// is found without reading them.
 class OrderBlocks {
  public:
-  OrderBlocks(sqlite::Database& database, Order order) : database_(database), order_(order) {}
+  OrderBlocks(sqlite::Database& database, LanguageRules rules, Order order);
   static void CreateTables(sqlite::Database& database);
 
   std::vector<OrderBlock> ReadMap();
@@ -29,13 +30,15 @@ class OrderBlocks {
   std::vector<PackedId> Read(const OrderBlock& block);
   void Write(std::uint32_t number, std::span<const PackedId> ids);
   void Remove(std::uint32_t number);
-  /// Removes the order's blocks; its list stays as it is.
-  void RemoveAll();
+  /// Replaces the whole order.
+  void WriteAll(std::span<const PackedId> ids, std::size_t blockSize);
+  /// Removes all orders by the rules of this number, known or not.
+  static void RemoveAll(sqlite::Database& database, std::int64_t rules);
 
  private:
   std::int64_t RowOf(std::uint32_t number) const;
   sqlite::Database& database_;
-  Order order_;
+  std::int64_t row_;  ///< its row in user_sorting
 };
 
 }  // namespace mindloft

@@ -1,6 +1,5 @@
 #include "backend/directory/index/SearchTexts.h"
 
-#include "backend/directory/index/TextChunk.h"
 #include "backend/directory/index/TextFinder.h"
 #include "backend/errors/Error.h"
 
@@ -19,6 +18,9 @@ std::size_t SlotOf(PackedId id) {
 /// Fewer chunks than these are fetched one by one; more are read faster all in a row.
 constexpr std::size_t kFewChunks = 400;
 
+/// More chunks than there are identifiers.
+constexpr std::int64_t kChunksOfFolding = std::int64_t{1} << 32;
+
 void SearchChunk(const TextFinder& finder, std::int64_t number, const TextChunk& chunk, IdSet& found) {
   std::string_view texts = chunk.Texts();
   std::size_t slot = 0;
@@ -32,23 +34,24 @@ void SearchChunk(const TextFinder& finder, std::int64_t number, const TextChunk&
 
 }  // namespace
 
-void SearchTexts::CreateTable(sqlite::Database& database) {
-  database.Execute("CREATE TABLE user_text(chunk INTEGER PRIMARY KEY, texts BLOB NOT NULL)");
+// The chunks of one folding lie together in the file.
+std::int64_t SearchTexts::RowOf(Folding folding, std::int64_t chunk) {
+  return static_cast<std::int64_t>(folding) * kChunksOfFolding + chunk;
 }
 
 sqlite::CachedStatement SearchTexts::Select(std::int64_t chunk) {
-  auto select = database_.Prepare("SELECT texts FROM user_text WHERE chunk=?");
-  select->BindAll(chunk);
+  auto select = database_.Prepare("SELECT texts FROM user_folded WHERE chunk=?");
+  select->BindAll(RowOf(chunk));
   return select;
 }
 
 void SearchTexts::Write(std::int64_t chunk, const std::string& stored) {
   if (TextChunk(stored).Empty()) {
-    database_.Prepare("DELETE FROM user_text WHERE chunk=?")->BindAll(chunk).Run();
+    database_.Prepare("DELETE FROM user_folded WHERE chunk=?")->BindAll(RowOf(chunk)).Run();
     return;
   }
-  auto put = database_.Prepare("INSERT OR REPLACE INTO user_text(chunk,texts) VALUES(?,?)");
-  put->Bind(0, chunk).BindBlob(1, stored).Run();
+  auto put = database_.Prepare("INSERT OR REPLACE INTO user_folded(chunk,texts) VALUES(?,?)");
+  put->Bind(0, RowOf(chunk)).BindBlob(1, stored).Run();
 }
 
 std::optional<FoldedUser> SearchTexts::Find(PackedId id) {
@@ -112,18 +115,32 @@ IdSet SearchTexts::Search(const std::string& text, const IdSet* within) {
     isFew = chunks <= kFewChunks;
   }
   if (isFew) {
-    auto select = database_.Prepare("SELECT texts FROM user_text WHERE chunk=?");
+    auto select = database_.Prepare("SELECT texts FROM user_folded WHERE chunk=?");
     for (auto number : few) {
       select->Reset();
-      select->BindAll(number);
+      select->BindAll(RowOf(number));
       if (select->Step()) SearchChunk(finder, number, TextChunk(select->BlobView(0)), found);
     }
   } else {
-    auto select = database_.Prepare("SELECT chunk,texts FROM user_text ORDER BY chunk");
-    while (select->Step()) SearchChunk(finder, select->Int(0), TextChunk(select->BlobView(1)), found);
+    ForEachChunk(
+        [&](std::int64_t number, const TextChunk& chunk) { SearchChunk(finder, number, chunk, found); });
   }
   if (within) found.KeepOnly(*within);
   return found;
+}
+
+void SearchTexts::ForEachChunk(const std::function<void(std::int64_t, const TextChunk&)>& visit) {
+  auto select =
+      database_.Prepare("SELECT chunk,texts FROM user_folded WHERE chunk>=?1 AND chunk<?2 ORDER BY chunk");
+  const auto first = RowOf(0);
+  select->BindAll(first, RowOf(kChunksOfFolding));
+  while (select->Step()) visit(select->Int(0) - first, TextChunk(select->BlobView(1)));
+}
+
+void SearchTexts::RemoveAll() {
+  database_.Prepare("DELETE FROM user_folded WHERE chunk>=? AND chunk<?")
+      ->BindAll(RowOf(0), RowOf(kChunksOfFolding))
+      .Run();
 }
 
 }  // namespace mindloft

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "backend/directory/collation/Collator.h"
 #include "backend/errors/Error.h"
 
 namespace mindloft {
@@ -71,22 +72,28 @@ UserOrder::Place UserOrder::FirstNot(IsBefore isBefore) {
   return {low, static_cast<std::size_t>(at - candidate.begin())};
 }
 
-UserOrder::Place UserOrder::PlaceOf(PackedId id, std::string_view key) {
+std::string UserOrder::KeyOf(PackedId id) {
+  return Collator::Of(rules_).SortKey(texts_.Key(id, order_));
+}
+
+UserOrder::Place UserOrder::PlaceOf(PackedId id, std::string_view text) {
+  const auto key = Collator::Of(rules_).SortKey(text);
   return FirstNot([&](PackedId other) {
     if (other == id) return false;
-    auto otherKey = texts_.Key(other, order_);
+    const auto otherKey = KeyOf(other);
     return otherKey != key ? otherKey < key : other < id;
   });
 }
 
 std::pair<UserOrder::Place, UserOrder::Place> UserOrder::PlacesOf(std::string_view prefix) {
-  auto start = [&](PackedId id) { return texts_.Key(id, order_).substr(0, prefix.size()); };
-  return {FirstNot([&](PackedId id) { return start(id) < prefix; }),
-          FirstNot([&](PackedId id) { return start(id) <= prefix; })};
+  const auto start = Collator::Of(rules_).PrefixKey(prefix);
+  auto compared = [&](PackedId id) { return KeyOf(id).compare(0, start.size(), start); };
+  return {FirstNot([&](PackedId id) { return compared(id) < 0; }),
+          FirstNot([&](PackedId id) { return compared(id) <= 0; })};
 }
 
-void UserOrder::Insert(PackedId id, std::string_view key) {
-  Place place = PlaceOf(id, key);
+void UserOrder::Insert(PackedId id, std::string_view text) {
+  Place place = PlaceOf(id, text);
   if (Blocks().empty()) map_->push_back({});
   if (place.block == map_->size()) {
     place.block = map_->size() - 1;
@@ -114,8 +121,8 @@ void UserOrder::Split(std::size_t block, std::span<const PackedId> ids) {
   map_->insert(map_->begin() + static_cast<std::ptrdiff_t>(block) + 1, second);
 }
 
-void UserOrder::Remove(PackedId id, std::string_view key) {
-  Place place = PlaceOf(id, key);
+void UserOrder::Remove(PackedId id, std::string_view text) {
+  Place place = PlaceOf(id, text);
   std::vector<PackedId> ids;
   if (place.block < Blocks().size()) ids = Ids(place.block);
   if (place.offset >= ids.size() || ids[place.offset] != id) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -14,20 +15,23 @@
 
 namespace mindloft {
 
-/// All users in one ascending order: by one folded key, equal keys by identifier.
+/// All users in one ascending order: by one of their texts and the rules of a language, texts that these do
+/// not tell apart by identifier.
 class UserOrder {
  public:
-  UserOrder(sqlite::Database& database, SearchTexts& texts, Order order, std::size_t blockSize)
-      : blocks_(database, order), texts_(texts), order_(order), blockSize_(blockSize) {}
+  /// `texts` are folded as the rules want it.
+  UserOrder(sqlite::Database& database, SearchTexts& texts, LanguageRules rules, Order order,
+            std::size_t blockSize)
+      : blocks_(database, rules, order), texts_(texts), rules_(rules), order_(order), blockSize_(blockSize) {}
 
   /// Drops what is remembered of the file.
   void Forget() { map_.reset(); }
 
   std::int64_t Count();
   /// The user's texts must be stored already. The user must not be in the order yet.
-  void Insert(PackedId id, std::string_view key);
+  void Insert(PackedId id, std::string_view text);
   /// The user's texts must still be the ones that it was inserted with.
-  void Remove(PackedId id, std::string_view key);
+  void Remove(PackedId id, std::string_view text);
 
   /// Takes all these users out in one pass over the blocks, whatever their texts are. `count` is how many of
   /// them the order must hold.
@@ -38,8 +42,9 @@ class UserOrder {
     std::size_t block = 0, offset = 0;
   };
   /// The place of this user, or the one where it would stand.
-  Place PlaceOf(PackedId id, std::string_view key);
-  /// The first place whose key starts with the prefix, and the first one behind it whose key does not.
+  Place PlaceOf(PackedId id, std::string_view text);
+  /// The first place whose text begins with the letters of the prefix, and the first one behind it whose text
+  /// does not.
   std::pair<Place, Place> PlacesOf(std::string_view prefix);
 
   std::int64_t CountBefore(Place place);
@@ -55,11 +60,13 @@ class UserOrder {
   /// false for all from it on.
   template <typename IsBefore>
   Place FirstNot(IsBefore isBefore);
+  std::string KeyOf(PackedId id);
   void Split(std::size_t block, std::span<const PackedId> ids);
   void Shrink(std::size_t block, std::vector<PackedId> ids);
 
   OrderBlocks blocks_;
   SearchTexts& texts_;
+  LanguageRules rules_;
   Order order_;
   std::size_t blockSize_;
   std::optional<std::vector<OrderBlock>> map_;

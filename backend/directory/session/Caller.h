@@ -3,6 +3,7 @@
 #include <string>
 
 #include "backend/directory/Records.h"
+#include "backend/directory/collation/LanguageRules.h"
 
 namespace mindloft {
 
@@ -10,6 +11,7 @@ namespace mindloft {
 struct Caller {
   ObjectId user = 0;
   std::string name;
+  LanguageRules rules = LanguageRules::Neutral;  ///< that names are ordered and searched by
 };
 
 }  // namespace mindloft

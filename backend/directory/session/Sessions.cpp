@@ -55,7 +55,7 @@ SessionId Sessions::Login(std::string_view name, std::string_view password) {
   Record(account, password);
   throttle_.Succeeded(key);
   SessionId session = NewSessionId();
-  users_[session] = account.id;
+  sessions_[session] = {account.id};
   return session;
 }
 
@@ -75,14 +75,14 @@ void Sessions::Record(const Account& account, std::string_view password) {
 }
 
 Caller Sessions::Require(SessionId session) {
-  auto found = users_.find(session);
-  if (found == users_.end()) throw Error(ErrorNumber::NotLoggedIn);
-  ObjectId id = found->second;
+  auto found = sessions_.find(session);
+  if (found == sessions_.end()) throw Error(ErrorNumber::NotLoggedIn);
+  const auto [id, rules] = found->second;
   auto row = database_.Prepare("SELECT name, enabled FROM user WHERE id = ?");
   row->BindAll(id);
   bool exists = row->Step();
-  if (exists && row->Int(1) != 0) return {id, row->Text(0)};
-  users_.erase(found);
+  if (exists && row->Int(1) != 0) return {id, row->Text(0), rules};
+  sessions_.erase(found);
   throw Error(exists ? ErrorNumber::AccountDisabled : ErrorNumber::NotLoggedIn);
 }
 

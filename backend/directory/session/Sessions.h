@@ -23,7 +23,8 @@ class Sessions {
   SessionId Login(std::string_view name, std::string_view password);
   /// Compares the password ahead of the next Login.
   void Prepare(std::string_view name, std::string_view password);
-  void Logout(SessionId session) { users_.erase(session); }
+  void Logout(SessionId session) { sessions_.erase(session); }
+  void SetRules(SessionId session, LanguageRules rules) { sessions_.at(session).rules = rules; }
   /// NotLoggedIn for an unknown session or a deleted user, AccountDisabled.
   Caller Require(SessionId session);
 
@@ -32,6 +33,11 @@ class Sessions {
     ObjectId id = 0;
     std::string name, password;
     bool enabled = false;
+  };
+  /// Who has logged in, and in which language.
+  struct Entry {
+    ObjectId user = 0;
+    LanguageRules rules = LanguageRules::Neutral;
   };
   /// A comparison that was made ahead.
   struct Comparison {
@@ -50,7 +56,7 @@ class Sessions {
   sqlite::Database& database_;
   Journal& journal_;
   LoginThrottle& throttle_;
-  std::unordered_map<SessionId, ObjectId> users_;
+  std::unordered_map<SessionId, Entry> sessions_;
   std::optional<Comparison> prepared_;
 };
 

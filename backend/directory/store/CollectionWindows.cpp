@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "backend/directory/FoldedText.h"
+#include "backend/directory/collation/Collator.h"
 #include "backend/directory/store/PrivilegeWords.h"
 
 namespace mindloft {
@@ -11,30 +12,30 @@ namespace {
 /// As many as a main window with a property sheet and a picker above it shows.
 constexpr std::size_t kKeptWindows = 8;
 
-/// Identifier, name key, the other listed text, and the state of domains or privileges of roles, of all rows
+/// Identifier, name, the other listed text, and the state of domains or privileges of roles, of all rows
 /// of the scope ?1.
 const char* RowsSql(Collection collection) {
   switch (collection) {
     case Collection::Roles:
-      return "SELECT id, name_key, '', privileges FROM role WHERE ?1 IS NOT NULL";
+      return "SELECT id, name, '', privileges FROM role WHERE ?1 IS NOT NULL";
     case Collection::UserRoles:
-      return "SELECT r.id, r.name_key, '', r.privileges FROM role_member m JOIN role r ON r.id = m.role "
+      return "SELECT r.id, r.name, '', r.privileges FROM role_member m JOIN role r ON r.id = m.role "
              "WHERE m.user = ?1";
     case Collection::Domains:
-      return "SELECT id, name_key, description, disabled FROM domain WHERE ?1 IS NOT NULL";
+      return "SELECT id, name, description, disabled FROM domain WHERE ?1 IS NOT NULL";
     case Collection::UserDomains:
-      return "SELECT d.id, d.name_key, d.description, d.disabled FROM domain_user m JOIN domain d ON d.id = "
+      return "SELECT d.id, d.name, d.description, d.disabled FROM domain_user m JOIN domain d ON d.id = "
              "m.domain "
              "WHERE m.user = ?1";
     case Collection::StyleDomains:
       return "SELECT id, name_key, description, disabled FROM domain WHERE style = ?1";
     case Collection::DomainGroups:
-      return "SELECT id, name_key, description, 0 FROM grp WHERE domain = ?1";
+      return "SELECT id, name, description, 0 FROM grp WHERE domain = ?1";
     case Collection::UserGroups:
-      return "SELECT g.id, g.name_key, g.description, 0 FROM group_member m JOIN grp g ON g.id = m.grp "
+      return "SELECT g.id, g.name, g.description, 0 FROM group_member m JOIN grp g ON g.id = m.grp "
              "WHERE m.user = ?1";
     case Collection::Styles:
-      return "SELECT id, name_key, '', 0 FROM style WHERE ?1 IS NOT NULL";
+      return "SELECT id, name, '', 0 FROM style WHERE ?1 IS NOT NULL";
     case Collection::Journal:
       return "SELECT id, name, who, 0 FROM journal WHERE ?1 IS NOT NULL";
     default:
@@ -59,39 +60,44 @@ Order OrderOf(const Query& query) {
 
 }  // namespace
 
-const CollectionWindows::Window& CollectionWindows::Get(const Query& query) {
+const CollectionWindows::Window& CollectionWindows::Get(const Query& query, LanguageRules rules) {
   if (sqlite::FileState now = database_.State(); now != state_) {
     windows_.clear();
     state_ = now;
   }
-  auto found = std::ranges::find(windows_, query, &Window::query);
+  auto found = std::ranges::find_if(
+      windows_, [&](const Window& window) { return window.rules == rules && window.query == query; });
   if (found != windows_.end()) {
     windows_.splice(windows_.begin(), windows_, found);
   } else {
-    windows_.push_front({query, Build(query)});
+    windows_.push_front({query, rules, Build(query, rules)});
     if (windows_.size() > kKeptWindows) windows_.pop_back();
   }
   return windows_.front();
 }
 
-std::vector<CollectionWindows::Row> CollectionWindows::Build(const Query& query) {
+std::vector<CollectionWindows::Row> CollectionWindows::Build(const Query& query, LanguageRules rules) {
   const bool journal = query.collection == Collection::Journal;
   const Order order = OrderOf(query);
-  const std::string filter = FoldedText(query.filter);
+  const Folding folding = FoldingOf(rules);
+  const Collator& collator = Collator::Of(rules);
+  const std::string filter = FoldedText(query.filter, folding);
   std::vector<Row> rows;
   auto row = database_.Prepare(RowsSql(query.collection));
   row->BindAll(query.scope);
   while (row->Step()) {
-    std::string name = journal ? FoldedText(row->TextView(1)) : row->Text(1);
+    std::string name = FoldedText(row->TextView(1), folding);
     std::string other;
-    if (order == Order::Description || !filter.empty()) other = FoldedText(row->TextView(2));
+    if (order == Order::Description || !filter.empty()) other = FoldedText(row->TextView(2), folding);
     if (name.find(filter) == std::string::npos && other.find(filter) == std::string::npos) continue;
-    std::string key = std::move(name);
-    if (order == Order::Description) key = std::move(other);
-    if (order == Order::Privileges) key = FoldedText(PrivilegeWords(static_cast<std::uint32_t>(row->Int(3))));
+    std::string text = std::move(name);
+    if (order == Order::Description) text = std::move(other);
+    if (order == Order::Privileges) {
+      text = FoldedText(PrivilegeWords(static_cast<std::uint32_t>(row->Int(3))), folding);
+    }
     // The journal is ordered by identifier alone.
-    if (journal) key.clear();
-    rows.push_back({order == Order::State && row->Int(3) != 0, std::move(key), row->Int(0)});
+    rows.push_back({order == Order::State && row->Int(3) != 0,
+                    journal ? std::string() : collator.SortKey(text), row->Int(0)});
   }
   if (query.descending || journal) {
     std::ranges::sort(rows, std::ranges::greater());
@@ -101,8 +107,9 @@ std::vector<CollectionWindows::Row> CollectionWindows::Build(const Query& query)
   return rows;
 }
 
-std::vector<ObjectId> CollectionWindows::Page(const Query& query, std::int64_t first, std::int64_t count) {
-  const auto& rows = Get(query).rows;
+std::vector<ObjectId> CollectionWindows::Page(const Query& query, std::int64_t first, std::int64_t count,
+                                              LanguageRules rules) {
+  const auto& rows = Get(query, rules).rows;
   std::int64_t size = std::ssize(rows);
   first = std::clamp<std::int64_t>(first, 0, size);
   count = std::clamp<std::int64_t>(count, 0, size - first);
@@ -111,10 +118,11 @@ std::vector<ObjectId> CollectionWindows::Page(const Query& query, std::int64_t f
   return ids;
 }
 
-std::int64_t CollectionWindows::FindPrefix(const Query& query, std::string_view prefix, std::int64_t from) {
-  const auto& rows = Get(query).rows;
+std::int64_t CollectionWindows::FindPrefix(const Query& query, std::string_view prefix, std::int64_t from,
+                                           LanguageRules rules) {
+  const auto& rows = Get(query, rules).rows;
   if (rows.empty() || query.collection == Collection::Journal) return -1;
-  const std::string key = FoldedText(prefix);
+  const std::string key = Collator::Of(rules).PrefixKey(FoldedText(prefix, FoldingOf(rules)));
   auto fits = [&](const Row& row) { return row.key.starts_with(key); };
   auto start = rows.begin() + std::clamp<std::int64_t>(from, 0, std::ssize(rows));
   auto found = std::find_if(start, rows.end(), fits);
@@ -125,8 +133,8 @@ std::int64_t CollectionWindows::FindPrefix(const Query& query, std::string_view 
   return found - rows.begin();
 }
 
-std::int64_t CollectionWindows::PositionOf(const Query& query, ObjectId object) {
-  const auto& rows = Get(query).rows;
+std::int64_t CollectionWindows::PositionOf(const Query& query, ObjectId object, LanguageRules rules) {
+  const auto& rows = Get(query, rules).rows;
   auto found = std::ranges::find(rows, object, &Row::id);
   return found == rows.end() ? -1 : found - rows.begin();
 }

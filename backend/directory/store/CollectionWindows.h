@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "backend/directory/Query.h"
+#include "backend/directory/collation/LanguageRules.h"
 #include "backend/directory/sqlite/Database.h"
 
 namespace mindloft {
@@ -18,24 +19,26 @@ class CollectionWindows {
  public:
   explicit CollectionWindows(sqlite::Database& database) : database_(database) {}
 
-  std::int64_t Count(const Query& query) { return std::ssize(Get(query).rows); }
-  std::vector<ObjectId> Page(const Query& query, std::int64_t first, std::int64_t count);
-  std::int64_t FindPrefix(const Query& query, std::string_view prefix, std::int64_t from);
-  std::int64_t PositionOf(const Query& query, ObjectId object);
+  std::int64_t Count(const Query& query, LanguageRules rules) { return std::ssize(Get(query, rules).rows); }
+  std::vector<ObjectId> Page(const Query& query, std::int64_t first, std::int64_t count, LanguageRules rules);
+  std::int64_t FindPrefix(const Query& query, std::string_view prefix, std::int64_t from,
+                          LanguageRules rules);
+  std::int64_t PositionOf(const Query& query, ObjectId object, LanguageRules rules);
 
  private:
   struct Row {
     bool disabled;    ///< goes before the key, in the order by state
-    std::string key;  ///< the folded text that it is ordered by
+    std::string key;  ///< the sort key of the text that it is ordered by
     ObjectId id;
     auto operator<=>(const Row&) const = default;
   };
   struct Window {
     Query query;
+    LanguageRules rules;
     std::vector<Row> rows;
   };
-  const Window& Get(const Query& query);
-  std::vector<Row> Build(const Query& query);
+  const Window& Get(const Query& query, LanguageRules rules);
+  std::vector<Row> Build(const Query& query, LanguageRules rules);
 
   sqlite::Database& database_;
   sqlite::FileState state_;

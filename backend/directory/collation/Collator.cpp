@@ -1,0 +1,96 @@
+#include "backend/directory/collation/Collator.h"
+
+#include <unicode/ucol.h>
+#include <unicode/ustring.h>
+
+#include <array>
+#include <mutex>
+#include <vector>
+
+#include "backend/errors/Error.h"
+
+namespace mindloft {
+namespace {
+
+constexpr std::array kLocales = {"root", "zh", "ja", "ar", "tr"};
+static_assert(kLocales.size() == kLanguageRules.size());
+
+constexpr UChar32 kReplacement = 0xFFFD;
+
+std::string_view LocaleOf(LanguageRules rules) {
+  return kLocales.at(static_cast<std::size_t>(rules));
+}
+
+void Require(UErrorCode status, LanguageRules rules) {
+  // A fallback is a success with a warning for the library; for the order it is another one.
+  const bool another = status == U_USING_DEFAULT_WARNING && rules != LanguageRules::Neutral;
+  if (U_FAILURE(status) || another) {
+    throw Error(kCollationMissing, std::string(LocaleOf(rules)) + ": " + u_errorName(status));
+  }
+}
+
+}  // namespace
+
+void Collator::Close::operator()(UCollator* collator) const {
+  ucol_close(collator);
+}
+
+const Collator& Collator::Of(LanguageRules rules) {
+  static std::mutex mutex;
+  static std::array<std::unique_ptr<Collator>, kLanguageRules.size()> collators;
+  const std::lock_guard lock(mutex);
+  auto& collator = collators.at(static_cast<std::size_t>(rules));
+  if (!collator) collator.reset(new Collator(rules));
+  return *collator;
+}
+
+Collator::Collator(LanguageRules rules) : whole_(Open(rules)), letters_(Open(rules)) {
+  ucol_setStrength(letters_.get(), UCOL_PRIMARY);
+}
+
+Collator::Handle Collator::Open(LanguageRules rules) {
+  UErrorCode status = U_ZERO_ERROR;
+  Handle collator(ucol_open(LocaleOf(rules).data(), &status));
+  Require(status, rules);
+  // Folded texts are composed, but not every composed text can be read without looking at its marks' order.
+  ucol_setAttribute(collator.get(), UCOL_NORMALIZATION_MODE, UCOL_ON, &status);
+  Require(status, rules);
+  return collator;
+}
+
+std::string Collator::KeyOf(const Handle& collator, std::string_view folded) {
+  // Texts are short and asked for by the million: the room is kept.
+  thread_local std::vector<UChar> text;
+  thread_local std::vector<std::uint8_t> key(128);
+  text.resize(folded.size() + 1);
+  UErrorCode status = U_ZERO_ERROR;
+  std::int32_t length = 0;
+  u_strFromUTF8WithSub(text.data(), static_cast<std::int32_t>(text.size()), &length, folded.data(),
+                       static_cast<std::int32_t>(folded.size()), kReplacement, nullptr, &status);
+  if (U_FAILURE(status)) throw Error(ErrorNumber::Unexpected, u_errorName(status));
+  for (;;) {
+    const auto needed = static_cast<std::size_t>(ucol_getSortKey(
+        collator.get(), text.data(), length, key.data(), static_cast<std::int32_t>(key.size())));
+    if (needed == 0) throw std::bad_alloc();
+    if (needed <= key.size()) return {key.begin(), key.begin() + static_cast<std::ptrdiff_t>(needed) - 1};
+    key.resize(needed);
+  }
+}
+
+std::string Collator::SortKey(std::string_view folded) const {
+  return KeyOf(whole_, folded);
+}
+
+std::string Collator::PrefixKey(std::string_view folded) const {
+  return KeyOf(letters_, folded);
+}
+
+std::string Collator::Version() const {
+  UVersionInfo version = {};
+  ucol_getVersion(whole_.get(), version);
+  char text[U_MAX_VERSION_STRING_LENGTH] = {};
+  u_versionToString(version, text);
+  return text;
+}
+
+}  // namespace mindloft

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "backend/directory/collation/LanguageRules.h"
+#include "backend/errors/ErrorNumbers.h"
+
+struct UCollator;
+
+namespace mindloft {
+
+/// The library lacks a language's rules.
+inline constexpr ErrorNumber kCollationMissing{60080};
+
+/// Orders texts by the rules of a language: the Unicode collation algorithm with the CLDR's tailorings (ICU).
+/// Texts are given folded, so that case and width make no difference. Any thread may use it.
+class Collator {
+ public:
+  /// Made at its first use and kept. Throws kCollationMissing when the library lacks the language's rules.
+  static const Collator& Of(LanguageRules rules);
+
+  /// Keys compare as bytes, as the rules order their texts; they hold no zero. Equal keys are texts that the
+  /// rules do not tell apart.
+  std::string SortKey(std::string_view folded) const;
+  /// What the sort keys begin with of all texts whose letters begin with these, accents aside where the
+  /// language takes them for marks on a letter ("mu" begins "Müller" in German, not in Turkish).
+  std::string PrefixKey(std::string_view folded) const;
+  /// Names the rules' edition: orders made by another one may differ.
+  std::string Version() const;
+
+ private:
+  struct Close {
+    void operator()(UCollator* collator) const;
+  };
+  using Handle = std::unique_ptr<UCollator, Close>;
+  explicit Collator(LanguageRules rules);
+  static Handle Open(LanguageRules rules);
+  static std::string KeyOf(const Handle& collator, std::string_view folded);
+
+  Handle whole_, letters_;
+};
+
+}  // namespace mindloft
