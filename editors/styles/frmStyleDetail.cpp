@@ -79,7 +79,6 @@ void frmStyleDetail::InfoChanged() {
 // own message would stop the typing.
 void frmStyleDetail::ShowPreview() {
   const bool installed = FaceOfStyleFont(ToWx(style_->Format().fontName)).has_value();
-  lblFontMissing->SetForegroundColour(installed ? GetBackgroundColour() : GetForegroundColour());
   lblFontMissing->Show(!installed);
   ShowStyle(*usPreview, installed ? style_ : nullptr);
 }
