@@ -10,6 +10,8 @@
 #include "controls/explorer/ExplorerXmlHandler.h"
 #include "controls/numbers/UserTextNumber.h"
 #include "controls/numbers/ucMaskedNumber.h"
+#include "controls/print/PagePicture.h"
+#include "controls/print/UserPrintSetup.h"
 #include "controls/richtext/TXControl.h"
 #include "controls/richtext/TextControl.h"
 #include "controls/styles/UserPreview.h"
@@ -31,6 +33,8 @@ void RegisterControls() {
     RegisterFormHandler(new BagXmlHandler<UseTextBox>("UseTextBox"));
     RegisterFormHandler(new BagXmlHandler<UseMultiLineTextBox>("UseMultiLineTextBox"));
     RegisterFormHandler(new BagXmlHandler<UserText>("UserText"));
+    RegisterFormHandler(new BagXmlHandler<PagePicture>("PagePicture"));
+    RegisterFormHandler(new BagXmlHandler<UserPrintSetup>("UserPrintSetup"));
     RegisterFormHandler(new BagXmlHandler<UserPreview>("UserPreview"));
     RegisterFormHandler(new BagXmlHandler<TXControl>("TXControl"));
     RegisterFormHandler(new BagXmlHandler<TextControl>("TextControl"));

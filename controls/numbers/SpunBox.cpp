@@ -90,7 +90,11 @@ void SpunBox::BindBox() {
   box_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { Quietly("OnTextChanged", [this] { OnTextChanged(); }); });
   box_->Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
     event.Skip();
-    if (!IsBeingDeleted()) Quietly("OnLeave", [this] { OnLeave(); });
+    if (IsBeingDeleted()) return;
+    Quietly("OnLeave", [this] { OnLeave(); });
+    Guarded("SpunBox", "LostFocus", [this] {
+      if (LostFocus) LostFocus();
+    });
   });
   box_->Bind(wxEVT_MOUSEWHEEL, &SpunBox::OnWheel, this);
 }

@@ -20,6 +20,7 @@ class SpunBox : public wxPanel {
   std::function<void(int& KeyCode, int Shift)> KeyDown;
   std::function<void(int& KeyAscii)> KeyPress;  ///< after filtering: 0 when the key was cancelled
   std::function<void(int& KeyCode, int Shift)> KeyUp;
+  std::function<void()> LostFocus;  ///< after the control has brought its content in order
 
   /// Reloads the captions in the current language.
   void LoadInfoOnControl();

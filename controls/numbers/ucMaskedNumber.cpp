@@ -3,11 +3,11 @@
 #include <wx/textctrl.h>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/StringHelper.h"
-#include "backend/tessaline/Text.h"
-#include "controls/bag/PropertyTable.h"
 #include "controls/numbers/FilterKey.h"
 #include "controls/numbers/NumberText.h"
 #include "core/ErrorHandling.h"
@@ -16,10 +16,6 @@ namespace mindloft {
 namespace {
 
 constexpr const char* kName = "ucMaskedNumber";
-
-bool IsBlank(const wxString& text) {
-  return GetStringHelper().IsBlank(text);
-}
 
 /// Behind what was put into a text. Where the caret stands while the toolkit tells of a change depends on the
 /// desktop.
@@ -45,116 +41,54 @@ bool ucMaskedNumber::Create(wxWindow* parent, wxWindowID id, const wxPoint& posi
   return true;
 }
 
-const PropertyTable<ucMaskedNumber>& ucMaskedNumber::Properties() {
-  using C = ucMaskedNumber;
-  // The text is brought into the range and the format, so these are read before it.
-  static const PropertyTable<C> table{
-      KeptProperty("WholeNumber", &C::WholeNumber, &C::SetWholeNumber, false),
-      KeptProperty("MinValue", &C::MinValue, &C::SetMinValue, 0),
-      KeptProperty("MaxValue", &C::MaxValue, &C::SetMaxValue, 10),
-      KeptProperty("Increment", &C::Increment, &C::SetIncrement, 1),
-      KeptProperty("DecimalDigits", &C::DecimalDigits, &C::SetDecimalDigits, 2),
-      KeptProperty("DisplayFormat", &C::DisplayFormat, &C::SetDisplayFormat, ""),
-      KeptProperty("Text", &C::Text, &C::LoadText, "0"),
-      KeptProperty("DisplayUpDown", &C::DisplayUpDown, &C::SetDisplayUpDown, true),
-      KeptProperty("Enabled", &C::Enabled, &C::SetEnabled, true),
-  };
-  return table;
-}
-
-void ucMaskedNumber::ReadProperties(const PropertyBag& bag) {
-  format_ = NumberPicture();
-  BagControl::ReadProperties(bag);
-}
-
-void ucMaskedNumber::SetWholeNumber(bool whole) {
-  wholeNumber_ = whole;
-  PropertyChanged();
-}
-
-void ucMaskedNumber::SetMinValue(std::int32_t value) {
-  spin_.SetMinimum(value);
-  PropertyChanged();
-}
-
-void ucMaskedNumber::SetMaxValue(std::int32_t value) {
-  spin_.SetMaximum(value);
-  PropertyChanged();
-}
-
-void ucMaskedNumber::SetIncrement(std::int32_t increment) {
-  increment_ = increment;
-  PropertyChanged();
-}
-
-void ucMaskedNumber::SetDecimalDigits(std::int16_t digits) {
-  decimalDigits_ = digits;
-  PropertyChanged();
-}
-
-wxString ucMaskedNumber::Text() const {
-  return Box().GetValue();
-}
-
-void ucMaskedNumber::SetText(const wxString& text) try {
-  PropertyChanged();
-  if (text != Box().GetValue()) {
-    Box().ChangeValue(text);
-    OnTextChanged();
-  }
-  textBefore_ = Box().GetValue();
-} catch (...) {
-  mindloft::Raise(kName, "Text");
-}
-
-void ucMaskedNumber::LoadText(const wxString& text) try {
-  const auto number = IsBlank(text) ? 0.0 : format_.Read(text);
-  if (!number) throw Error(ErrorNumber::TypeMismatch, "\"" + ToUtf8(text) + "\" is no number");
-  Rewrite(Clamped(*number));
-  spin_.SetValue(WholePart(Number()));
-} catch (...) {
-  mindloft::Raise(kName, "Text");
-}
-
-void ucMaskedNumber::SetDisplayFormat(const wxString& picture) try {
-  displayFormat_ = picture;
-  if (!IsBlank(picture)) format_ = NumberPicture(picture);
-  PropertyChanged();
-} catch (...) {
-  mindloft::Raise(kName, "DisplayFormat");
-}
-
-void ucMaskedNumber::SetDisplayUpDown(bool shown) {
-  displayUpDown_ = shown;
-  ShowArrows(shown);
-  PropertyChanged();
-}
-
-void ucMaskedNumber::SetEnabled(bool enabled) {
-  enabled_ = enabled;
-  Box().Enable(enabled);
-  Arrows().Enable(enabled);
-  PropertyChanged();
-}
-
 wxString ucMaskedNumber::FormatText() const try { return Clamped(Number()); } catch (...) {
   mindloft::Raise(kName, "FormatText");
 }
 
 bool ucMaskedNumber::TextVerify(const wxString& text) const try {
-  return format_.Read(text).has_value();
+  return Read(text).has_value();
 } catch (...) {
   mindloft::Raise(kName, "TextVerify");
 }
 
 double ucMaskedNumber::Number() const {
-  return format_.Read(Text()).value_or(spin_.Minimum());
+  return Read(Text()).value_or(spin_.Minimum());
+}
+
+std::optional<double> ucMaskedNumber::Read(const wxString& text) const {
+  auto number = format_.Read(text);
+  // As many decimals as there are units: without what the multiplication leaves behind them.
+  if (number && unitsPerShown_ > 1) number = std::round(*number * unitsPerShown_);
+  return number;
+}
+
+wxString ucMaskedNumber::Show(double number) const {
+  return format_.Format(number / unitsPerShown_);
+}
+
+std::int32_t ucMaskedNumber::Value() const try {
+  const double nearest = std::round(Number());
+  constexpr double Least = std::numeric_limits<std::int32_t>::min();
+  constexpr double Greatest = std::numeric_limits<std::int32_t>::max();
+  return static_cast<std::int32_t>(std::clamp(nearest, Least, Greatest));
+} catch (...) {
+  mindloft::Raise(kName, "Value");
+}
+
+void ucMaskedNumber::SetValue(std::int32_t value) {
+  SetText(Show(value));
+  spin_.SetValue(value);
+}
+
+void ucMaskedNumber::SelectAll() {
+  Box().SetFocus();
+  Box().SetSelection(0, Box().GetLastPosition());
 }
 
 wxString ucMaskedNumber::Clamped(double number) const {
   double clamped = number < MinValue() ? MinValue() : number;
   if (number > MaxValue()) clamped = MaxValue();
-  return format_.Format(clamped);
+  return Show(clamped);
 }
 
 void ucMaskedNumber::Rewrite(const wxString& text) {
@@ -207,17 +141,17 @@ void ucMaskedNumber::UpDown_Change() {
 
 void ucMaskedNumber::UpDown_UpClick() {
   if (spin_.Value() < MaxValue())
-    SetText(format_.Format(Number() + increment_));
+    SetText(Show(Number() + increment_));
   else if (spin_.Value() == MaxValue())
-    SetText(format_.Format(MaxValue()));
+    SetText(Show(MaxValue()));
   AfterClick();
 }
 
 void ucMaskedNumber::UpDown_DownClick() {
   if (spin_.Value() > MinValue())
-    SetText(format_.Format(Number() - increment_));
+    SetText(Show(Number() - increment_));
   else if (spin_.Value() == MinValue())
-    SetText(format_.Format(MinValue()));
+    SetText(Show(MinValue()));
   AfterClick();
 }
 
@@ -230,7 +164,7 @@ void ucMaskedNumber::AfterClick() {
 }
 
 void ucMaskedNumber::OnTextChanged() {
-  if (IsBlank(Text())) {
+  if (GetStringHelper().IsBlank(Text())) {
     Box().ChangeValue("0");
     // What is typed next takes its place.
     Box().SetSelection(0, 1);
@@ -272,7 +206,7 @@ void ucMaskedNumber::MaskEdBox_Validate() {
   const wxString clamped = Clamped(Number());
   if (clamped != Text()) Rewrite(clamped);
   spin_.SetValue(WholePart(Number()));
-  const wxString formatted = format_.Format(Number());
+  const wxString formatted = Show(Number());
   if (formatted != Text()) Rewrite(formatted);
   Box().SetInsertionPoint(std::min(caret, Box().GetLastPosition()));
   validating_ = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "controls/bag/BagControl.h"
 #include "controls/numbers/NumberPicture.h"
@@ -49,6 +50,20 @@ class ucMaskedNumber : public SpunBox, public BagControl<ucMaskedNumber> {
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
 
+  /// How many units of the number make one that is shown and typed: with 10 a box of tenths of a millimetre
+  /// shows millimetres. The range, the increment and the value count the number's units, `Text` is what is
+  /// shown. Not among the kept properties: 1 until the form sets it, before the properties that depend on it.
+  std::int32_t UnitsPerShown() const { return unitsPerShown_; }
+  void SetUnitsPerShown(std::int32_t units);
+  /// The number in the box to the nearest unit, halves away from zero; `MinValue` when there is none.
+  std::int32_t Value() const;
+  /// Shows the number in the box's format, even one outside the range; `Change` is raised for another one.
+  void SetValue(std::int32_t value);
+  /// Brings the number into the range and its format, without `Change`: what leaving the box does.
+  void MaskEdBox_Validate();
+  /// Selects the whole text and puts the focus into the box.
+  void SelectAll();
+
   /// The number in the box (`MinValue` when there is none) brought into the range and formatted. The box
   /// stays as it is.
   wxString FormatText() const;
@@ -63,7 +78,6 @@ class ucMaskedNumber : public SpunBox, public BagControl<ucMaskedNumber> {
   void OnLeave() override;
 
   void LoadText(const wxString& text);
-  void MaskEdBox_Validate();
   void UpDown_UpClick();
   void UpDown_DownClick();
   void UpDown_Change();
@@ -73,12 +87,15 @@ class ucMaskedNumber : public SpunBox, public BagControl<ucMaskedNumber> {
   void Rewrite(const wxString& text);
   wxString Clamped(double number) const;
   double Number() const;
+  std::optional<double> Read(const wxString& text) const;
+  wxString Show(double number) const;
 
   SpinValue spin_;
   NumberPicture format_;
   wxString displayFormat_;
   wxString textBefore_;  ///< before the last keystroke, or what the program has put in since
   std::int32_t increment_ = 1;
+  std::int32_t unitsPerShown_ = 1;
   std::int16_t decimalDigits_ = 2;
   bool wholeNumber_ = false;
   bool displayUpDown_ = true;

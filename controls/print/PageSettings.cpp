@@ -5,6 +5,10 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <string>
+
+#include "backend/errors/Error.h"
+#include "backend/tessaline/Services.h"
 
 namespace mindloft {
 namespace {
@@ -28,6 +32,17 @@ wxPaperSize PaperOf(const wxSize& sheet) {
 }
 
 }  // namespace
+
+PageOrientation ReadOrientation(std::int32_t number) {
+  const auto orientation = static_cast<PageOrientation>(number);
+  if (orientation != PageOrientation::Portrait && orientation != PageOrientation::Landscape)
+    throw Error(ErrorNumber::TypeMismatch, std::to_string(number) + " is no orientation of a page");
+  return orientation;
+}
+
+PageOrientation ReadOrientation(const wxString& text) {
+  return ReadOrientation(GetConvert().ToLong(text));
+}
 
 wxSize SheetSize(const PageSettings& settings) {
   if (settings.orientation == PageOrientation::Landscape) return {settings.paperHeight, settings.paperWidth};

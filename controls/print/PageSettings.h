@@ -12,6 +12,10 @@ namespace mindloft {
 
 enum class PageOrientation : std::int32_t { Portrait = 1, Landscape = 2 };
 
+/// The orientation of that number, or text; TypeMismatch when there is none.
+PageOrientation ReadOrientation(std::int32_t number);
+PageOrientation ReadOrientation(const wxString& text);
+
 /// On what, and where on it, something is printed: what frmPageSetup asks for. Sizes are tenths of a
 /// millimetre.
 struct PageSettings {

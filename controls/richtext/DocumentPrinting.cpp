@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "backend/tessaline/Services.h"
+#include "controls/print/frmPageSetup.h"
 #include "controls/richtext/PreviewWindow.h"
 #include "core/ErrorHandling.h"
 
@@ -43,23 +44,9 @@ std::unique_ptr<Printout> MakePrintout(const wxRichTextBuffer& document, const P
 }  // namespace
 
 bool AskForPage(wxWindow& parent, PageSettings& page) {
-  wxPageSetupDialogData data = ToPageSetupData(page);
-  wxPageSetupDialog dialog(wxGetTopLevelParent(&parent), &data);
-  if (dialog.ShowModal() != wxID_OK) return false;
-  // Whole millimetres there, tenths here.
-  constexpr int kTenths = 10;
-  const wxPageSetupDialogData& chosen = dialog.GetPageSetupDialogData();
-  const bool landscape = chosen.GetPrintData().GetOrientation() == wxLANDSCAPE;
-  wxSize sheet = chosen.GetPaperSize() * kTenths;
-  if (landscape) sheet = wxSize(sheet.y, sheet.x);
-  page.printerName = chosen.GetPrintData().GetPrinterName();
-  page.orientation = landscape ? PageOrientation::Landscape : PageOrientation::Portrait;
-  page.paperWidth = sheet.x;
-  page.paperHeight = sheet.y;
-  page.leftMargin = chosen.GetMarginTopLeft().x * kTenths;
-  page.topMargin = chosen.GetMarginTopLeft().y * kTenths;
-  page.rightMargin = chosen.GetMarginBottomRight().x * kTenths;
-  page.bottomMargin = chosen.GetMarginBottomRight().y * kTenths;
+  frmPageSetup form(wxGetTopLevelParent(&parent));
+  if (!form.ShowPageSetup(page)) return false;
+  page = form.Settings();
   SavePageSettings(page);
   return true;
 }

@@ -35,6 +35,7 @@
 #include <wx/xrc/xh_unkwn.h>
 
 #include <memory>
+#include <utility>
 
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Text.h"
@@ -76,12 +77,14 @@ FormResource::FormResource() : wxXmlResource(wxXRC_NO_RELOADING) {
 
 void FormResource::Load(wxObject* instance, wxWindow* parent, const wxString& name,
                         const wxString& className) {
-  errors_.clear();
+  // A control of a form may load a form of its own.
+  auto outer = std::exchange(errors_, {});
   LoadFile(name);
   bool created = LoadObject(instance, parent, name, className);
-  if (created && errors_.empty()) return;
+  const auto errors = std::exchange(errors_, std::move(outer));
+  if (created && errors.empty()) return;
   wxString description = "form " + name;
-  for (const auto& error : errors_) description += "; " + error;
+  for (const auto& error : errors) description += "; " + error;
   throw Error(ErrorNumber::Unexpected, ToUtf8(description));
 }
 
