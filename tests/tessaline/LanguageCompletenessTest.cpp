@@ -219,7 +219,9 @@ const std::set<std::string> filledByProgram = {"frmLogin.txtWhere",
                                                "frmUserDetail.lblStrength",
                                                "frmDomainInfo.lblCount",
                                                "frmDeleteKDomainProgress.lblWhat",
-                                               "frmDeleteKDomainProgress.lblRows"};
+                                               "frmDeleteKDomainProgress.lblRows",
+                                               "UserPrintSetup.lblArea",
+                                               "UserPrintSetup.lblHint"};
 
 TEST_F(LanguageCompletenessTest, EveryControlOfAFormThatShowsATextHasACaption) {
   static const std::set<std::string> showing = {"wxButton",         "wxCheckBox", "wxRadioButton",
