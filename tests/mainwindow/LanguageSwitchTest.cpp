@@ -37,20 +37,26 @@ class LanguageSwitchTest : public MainWindowTest {
   static void LookAt(const wxTopLevelWindow& form, std::size_t least) {
     SCOPED_TRACE(form.GetName().utf8_string());
     ExpectFits(form);
-    ExpectTextsOfLanguage(form, least);
+    ExpectTextsOfLanguage(form, least, {"Quotation"});
     EXPECT_EQ(form.GetLayoutDirection() == wxLayout_RightToLeft, GetResource().IsRightToLeft());
   }
-  /// Looks at each page in each language, then leaves the form.
-  static ModalDriver::Script LookAndLeave(const char* leave, const char* notebook, std::size_t least) {
-    return [=](User& user) {
-      const auto pages = notebook ? user.Find<wxBookCtrlBase>(notebook).GetPageCount() : 1;
-      for (std::size_t page = 0; page < pages; ++page) {
-        SCOPED_TRACE("page " + std::to_string(page));
-        if (notebook) user.SelectPage(notebook, static_cast<int>(page));
+  /// Opens the form once for each of its pages, looks at the page in each language and leaves.
+  void LookAtPages(const char* form, const char* leave, const char* notebook, std::size_t least,
+                   const char* command) {
+    int pages = 1;
+    for (int page = 0; page < pages; ++page) {
+      SCOPED_TRACE("page " + std::to_string(page));
+      ModalDriver modal;
+      modal.ExpectForm(form, [&](User& user) {
+        if (notebook) {
+          pages = static_cast<int>(user.Find<wxBookCtrlBase>(notebook).GetPageCount());
+          user.SelectPage(notebook, page);
+        }
         InEveryLanguage([&] { LookAt(TopLevel(user), least); });
-      }
-      user.Click(leave);
-    };
+        user.Click(leave);
+      });
+      Run(command);
+    }
   }
 };
 
@@ -67,16 +73,14 @@ TEST_F(LanguageSwitchTest, MainWindowSheetAndErrorDialogFollowTogether) {
   modal.ExpectForm("frmUserDetail", [&](User& sheet) {
     sheet.SelectPage("sstUser", 2);
     modal.ExpectForm("frmErrorManager", [&](User& error) {
-      const auto look = [&] {
+      error.Click("cmdMoreInfomation");
+      InEveryLanguage([&] {
         LookAt(*form_, 55);
         LookAt(TopLevel(sheet), 10);
         LookAt(TopLevel(error), 3);
         const auto text = GetResource().GetFormatString(60040, {"anna", "bob", "2026-01-01T10:00:00Z"});
         EXPECT_EQ(error.Read("txtMoreInfomation").BeforeFirst('\n'), text);
-      };
-      InEveryLanguage(look);
-      error.Click("cmdMoreInfomation");
-      InEveryLanguage(look);
+      });
       error.Click("cmdOK");
     });
     FailInProcedure();
@@ -112,6 +116,7 @@ TEST_F(LanguageSwitchTest, EveryFormFitsAndFollows) {
       {"frmDUserProperty", "cmdCancel", nullptr, 7, below("59305"), "back\\slash", "mnuFileProperties"},
       {"frmConfiguration", "cmdCancel", nullptr, 9, {"59300"}, nullptr, "mnuToolsConfiguration"},
       {"frmURL", "cmdclose", nullptr, 5, {"59300"}, nullptr, "mnuToolsURL"},
+      {"frmStyles", "cmdClose", nullptr, 7, {"59300"}, nullptr, "mnuToolsStyles"},
   };
   for (const auto& test : cases) {
     SCOPED_TRACE(test.form);
@@ -120,9 +125,7 @@ TEST_F(LanguageSwitchTest, EveryFormFitsAndFollows) {
       SelectRow(test.row);
     else if (test.form == std::string("frmRoleProperty"))
       Explorer().SelectListRow(0);
-    ModalDriver modal;
-    modal.ExpectForm(test.form, LookAndLeave(test.leave, test.notebook, test.least));
-    Run(test.command);
+    LookAtPages(test.form, test.leave, test.notebook, test.least, test.command);
   }
 }
 

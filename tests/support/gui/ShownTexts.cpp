@@ -181,10 +181,12 @@ std::set<wxString> ShownTexts(const wxTopLevelWindow& form) {
   return reader.texts;
 }
 
-void ExpectTextsOfLanguage(const wxTopLevelWindow& form, std::size_t least) {
+void ExpectTextsOfLanguage(const wxTopLevelWindow& form, std::size_t least,
+                           const std::set<wxString>& stored) {
   const int present = GetResource().CurrentLanguage();
   std::size_t own = 0;
   for (const auto& text : ShownTexts(form)) {
+    if (stored.count(text)) continue;
     if (VocabularyOf(present).Has(text)) {
       ++own;
       continue;

@@ -11,7 +11,8 @@ namespace mindloft::test {
 std::set<wxString> ShownTexts(const wxTopLevelWindow& form);
 
 /// No text of the form is one of the program's in another language than the present one, and at least `least`
-/// are in the present one.
-void ExpectTextsOfLanguage(const wxTopLevelWindow& form, std::size_t least);
+/// are in the present one. `stored`: names of the directory that happen to be texts of the program too.
+void ExpectTextsOfLanguage(const wxTopLevelWindow& form, std::size_t least,
+                           const std::set<wxString>& stored = {});
 
 }  // namespace mindloft::test
