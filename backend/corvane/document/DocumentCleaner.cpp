@@ -43,6 +43,16 @@ std::string Utf8Of(char32_t character) {
   return platform::Utf8FromUtf16({&unit, 1});
 }
 
+/// The value as the component writes it: its reader takes the digits of colours as capitals only.
+std::string AsWritten(const pugi::xml_attribute& attribute) {
+  std::string value = attribute.value();
+  const bool isColour = std::string_view(attribute.name()).ends_with("color");
+  for (char& each : value) {
+    if (isColour && each >= 'a' && each <= 'f') each = static_cast<char>(each - 'a' + 'A');
+  }
+  return value;
+}
+
 bool HaveSameAttributes(const pugi::xml_node& one, const pugi::xml_node& other) {
   auto left = one.first_attribute();
   auto right = other.first_attribute();
@@ -232,7 +242,7 @@ void DocumentCleaner::CopyAttributes(const pugi::xml_node& source, pugi::xml_nod
     if (name == "rows" || name == "cols") continue;
     // Twice is no XML, but a tolerant parser reads it.
     if (IsSafeAttribute(owner, name, attribute.value()) && !target.attribute(attribute.name()))
-      target.append_attribute(attribute.name()) = attribute.value();
+      target.append_attribute(attribute.name()) = AsWritten(attribute).c_str();
     else
       isReduced_ = true;
   }

@@ -109,6 +109,7 @@ TEST_F(DocumentTest, ShowsWhatIsJustAllowed) {
       "<paragraph bulletstyle=\"512\" bulletname=\"standard/nothing\"><text>&#9;&#9;</text></paragraph>",
       "<paragraph parspacingbefore=\"2000\" pagebreak=\"1\"><text texteffects=\"4095\" "
       "texteffectflags=\"4095\">x</text></paragraph>",
+      "<paragraph><text textcolor=\"#ab12ef\" bgcolor=\"#fedcba\">x</text></paragraph>",
       nested,
   };
   for (const auto& each : paragraphs) {

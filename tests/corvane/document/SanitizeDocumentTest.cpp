@@ -64,6 +64,8 @@ TEST(SanitizeDocumentTest, WritesTheComponentsXmlInOneWay) {
       {"", "<paragraph><text/></paragraph>"},
       {"<paragraph><symbol>128512</symbol><symbol>55357</symbol><symbol>56832</symbol></paragraph>",
        "<paragraph><text>\"\xF0\x9F\x98\x80\xF0\x9F\x98\x80\"</text></paragraph>"},
+      {R"(<paragraph><text textcolor="#ab12ef">a</text></paragraph>)",
+       R"(<paragraph><text textcolor="#AB12EF">"a"</text></paragraph>)"},
       {R"(<paragraph><text fontweight="700">a</text><text fontweight="700">b</text><text>c</text></paragraph>)",
        R"(<paragraph><text fontweight="700">"ab"</text><text>"c"</text></paragraph>)"},
   };
