@@ -1,7 +1,5 @@
 #include "platform/linux/CupsPapers.h"
 
-#include <cups/pwg.h>
-
 #include <algorithm>
 #include <string_view>
 
@@ -12,12 +10,13 @@ namespace {
 
 using namespace std::string_view_literals;
 
-std::vector<cups_size_t> ReadSizes(http_t* server, cups_dest_t* destination, cups_dinfo_t* info) {
+std::vector<cups_size_t> ReadSizes(const CupsLibrary& cups, http_t* server, cups_dest_t* destination,
+                                   cups_dinfo_t* info) {
   std::vector<cups_size_t> sizes;
-  const int count = cupsGetDestMediaCount(server, destination, info, CUPS_MEDIA_FLAGS_DEFAULT);
+  const int count = cups.mediaCount(server, destination, info, CUPS_MEDIA_FLAGS_DEFAULT);
   cups_size_t size{};
   for (int index = 0; index < count; ++index) {
-    if (cupsGetDestMediaByIndex(server, destination, info, index, CUPS_MEDIA_FLAGS_DEFAULT, &size))
+    if (cups.mediaByIndex(server, destination, info, index, CUPS_MEDIA_FLAGS_DEFAULT, &size))
       sizes.push_back(size);
   }
   return sizes;
@@ -29,11 +28,11 @@ bool IsBorderless(const cups_size_t& size) {
 
 /// The standard's own record of the paper, whose size is not rounded to points as a driver's is; null when
 /// the standard has none.
-const pwg_media_t* StandardPaper(const cups_size_t& size) {
+const pwg_media_t* StandardPaper(const CupsLibrary& cups, const cups_size_t& size) {
   std::string name = size.media;
   constexpr auto suffix = "_borderless"sv;
   if (std::string_view(name).ends_with(suffix)) name.resize(name.size() - suffix.size());
-  return name.starts_with("custom") ? nullptr : pwgMediaForPWG(name.c_str());
+  return name.starts_with("custom") ? nullptr : cups.standardMedia(name.c_str());
 }
 
 /// The first characters of a UTF-8 text.
@@ -51,16 +50,17 @@ std::int32_t Tenths(int hundredths) {
   return (hundredths + 5) / 10;
 }
 
-PaperSize SizeOf(const cups_size_t& size) {
-  if (const pwg_media_t* standard = StandardPaper(size))
+PaperSize SizeOf(const CupsLibrary& cups, const cups_size_t& size) {
+  if (const pwg_media_t* standard = StandardPaper(cups, size))
     return {Tenths(standard->width), Tenths(standard->length)};
   return {Tenths(size.width), Tenths(size.length)};
 }
 
 }  // namespace
 
-PrinterPapers ReadCupsPapers(http_t* server, cups_dest_t* destination, cups_dinfo_t* info) {
-  const auto sizes = ReadSizes(server, destination, info);
+PrinterPapers ReadCupsPapers(const CupsLibrary& cups, http_t* server, cups_dest_t* destination,
+                             cups_dinfo_t* info) {
+  const auto sizes = ReadSizes(cups, server, destination, info);
   // Where no paper has borders that need not be said of each.
   const bool allBorderless = std::all_of(sizes.begin(), sizes.end(), &IsBorderless);
   PrinterPapers papers;
@@ -68,19 +68,19 @@ PrinterPapers ReadCupsPapers(http_t* server, cups_dest_t* destination, cups_dinf
   for (const cups_size_t& size : sizes) {
     cups_size_t worded = size;
     if (allBorderless) worded.left = worded.right = worded.top = worded.bottom = 1;
-    const char* wording = cupsLocalizeDestMedia(server, destination, info, CUPS_MEDIA_FLAGS_DEFAULT, &worded);
+    const char* wording = cups.localizeMedia(server, destination, info, CUPS_MEDIA_FLAGS_DEFAULT, &worded);
     std::string name = wording ? wording : size.media;
     // Where the library has no word in the user's language it tells the size, which says less than the short
     // name that drivers give the paper everywhere.
-    const pwg_media_t* standard = StandardPaper(size);
+    const pwg_media_t* standard = StandardPaper(cups, size);
     const bool isOnlySize = name.find(" x ") != std::string::npos;
     if (isOnlySize && standard && standard->ppd) name = standard->ppd;
     papers.names.push_back(Shortened(std::move(name)));
     papers.numbers.push_back(numbers.Give(size.media));
-    papers.sizes.push_back(SizeOf(size));
+    papers.sizes.push_back(SizeOf(cups, size));
   }
   cups_size_t present{};
-  if (cupsGetDestMediaDefault(server, destination, info, CUPS_MEDIA_FLAGS_DEFAULT, &present))
+  if (cups.mediaDefault(server, destination, info, CUPS_MEDIA_FLAGS_DEFAULT, &present))
     papers.current = numbers.Find(present.media);
   return papers;
 }
