@@ -58,12 +58,26 @@ bool IsTabStops(std::string_view value) {
   return false;
 }
 
+/// Tenths of a millimetre, pixels, per cent, points or hundredths of a point; with or without the mark of a
+/// value that is set. The component asserts for others.
+bool IsUnit(std::string_view value) {
+  constexpr int kIsSet = 0x1000;
+  constexpr int kUnits[] = {0, 1, 2, 4, 8, 0x100};
+  const auto flags = NumberOf(value);
+  return flags && *flags >= 0 &&
+         std::find(std::begin(kUnits), std::end(kUnits), *flags & ~kIsSet) != std::end(kUnits);
+}
+
+bool IsFontStyle(std::string_view value) {
+  return value == "90" || value == "93" || value == "94";
+}
+
 /// "5,4098": a number and the flags that tell its unit.
 template <int most>
 bool IsDimension(std::string_view value) {
   const auto comma = value.find(',');
   return comma != std::string_view::npos && IsBetween<0, most>(value.substr(0, comma)) &&
-         IsBetween<0, 0xFFFF>(value.substr(comma + 1));
+         IsUnit(value.substr(comma + 1));
 }
 
 bool IsVerticalPlace(std::string_view value) {
@@ -86,8 +100,8 @@ constexpr Known kKnown[] = {
     {"textcolor", kRun, IsColour},
     {"bgcolor", kRun, IsColour},
     {"fontpointsize", kRun, IsBetween<1, 400>},
-    {"fontfamily", kRun, IsBetween<70, 79>},
-    {"fontstyle", kRun, IsBetween<90, 94>},
+    {"fontfamily", kRun, IsBetween<70, 76>},
+    {"fontstyle", kRun, IsFontStyle},
     {"fontweight", kRun, IsBetween<1, 1000>},
     {"fontunderlined", kRun, IsBetween<0, 1>},
     {"fontface", kRun, IsName},
