@@ -77,7 +77,12 @@ StyleControls::StyleControls(const FormDialog& form, const std::function<void()>
 void StyleControls::Bind(const std::function<void()>& changed) {
   const auto command = [changed](wxCommandEvent&) { changed(); };
   cboFont->Bind(wxEVT_TEXT, command);
-  cboFont->Bind(wxEVT_COMBOBOX, command);
+  cboFont->Bind(wxEVT_COMBOBOX, [this, changed](wxCommandEvent& event) {
+    // Not every desktop has put the entry into the box by now.
+    const int entry = event.GetSelection();
+    if (entry >= 0) cboFont->ChangeValue(cboFont->GetString(static_cast<unsigned>(entry)));
+    changed();
+  });
   cboAlignment->Bind(wxEVT_CHOICE, command);
   for (auto* box : {chkBold, chkItalic, chkUnderline, chkStrikeThrough}) box->Bind(wxEVT_CHECKBOX, command);
   for (auto* box : {chkColour, chkBackground}) {
