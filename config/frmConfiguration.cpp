@@ -95,6 +95,8 @@ void frmConfiguration::LoadInfoOnForm() try {
   // The form keeps its size when the mode changes: either frame gets the room of the larger one.
   for (auto* frame : {picLan, picWeb}) frame->SetMinSize(wxDefaultSize);
   FormDialog::LoadInfoOnForm();
+  // An address reads from left to right in every language.
+  cmbAddress->SetLayoutDirection(wxLayout_LeftToRight);
   wxSize room = picLan->GetBestSize();
   room.IncTo(picWeb->GetBestSize());
   for (auto* frame : {picLan, picWeb}) frame->SetMinSize(room);

@@ -20,7 +20,8 @@ namespace {
 constexpr int kDuplicate = 53657;
 constexpr int kSearchHint = 61104;
 constexpr int kUrlColumn = 61810;
-constexpr int kColumnWidth = 540;
+/// What the list needs beside its column, in explorer width units.
+constexpr int kScrollBarWidth = 30;
 
 }  // namespace
 
@@ -83,7 +84,7 @@ void frmURL::ShowRows() {
   const auto state = ctURL->ListState();
   const bool listed = !ctURL->Columns().empty();
   ctURL->ClearList();
-  AddColumn(*ctURL, GetResource().GetString(kUrlColumn), kColumnWidth);
+  AddColumn(*ctURL, GetResource().GetString(kUrlColumn), ctURL->ToDIP(ctURL->GetSize().x) - kScrollBarWidth);
   ctURL->SetSearchHint(GetResource().GetString(kSearchHint));
   ctURL->SetRows(rows_);
   if (listed) ctURL->RestoreList(state);

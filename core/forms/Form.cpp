@@ -103,6 +103,8 @@ void FormDialog::LoadInfoOnForm() try {
   GetResource().LoadInfoOnForm(*this);
   ApplyLayoutDirection(*this);
   FitToContents();
+  // What a form that is open shows has moved, in a new reading direction to the other side.
+  if (IsShown()) Refresh();
 } catch (...) {
   mindloft::Raise("FormDialog", "LoadInfoOnForm");
 }
