@@ -102,7 +102,7 @@ void PagePicture::DrawText(wxDC& dc) const {
   const int thick = std::max(FromDIP(1), 1);
   // Lines of a text, the last one of them short, inside the margins' edge.
   dc.SetPen(*wxTRANSPARENT_PEN);
-  dc.SetBrush(wxBrush(SystemColour(wxSYS_COLOUR_BTNSHADOW)));
+  dc.SetBrush(wxBrush(SystemColour(wxSYS_COLOUR_GRAYTEXT)));
   const wxRect text = wxRect(area).Deflate(2 * thick);
   const int step = std::max(FromDIP(kLine), 2);
   for (int top = text.y; !text.IsEmpty() && top + thick <= text.GetBottom(); top += step) {
