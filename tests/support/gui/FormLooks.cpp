@@ -15,6 +15,8 @@
 #include <wx/statusbr.h>
 
 #include <map>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "backend/tessaline/Services.h"
@@ -40,13 +42,41 @@ bool HasLabel(const wxWindow& window) {
   return IsOneOf<wxStaticText, wxButton, wxCheckBox, wxRadioButton>(window);
 }
 
-void ExpectInsideAndApart(const wxWindow& holder) {
-  const wxRect room(wxPoint(), holder.GetVirtualSize());
+bool IsThere(const wxWindow& child) {
+  return child.IsShown() && !child.IsTopLevel() && child.GetSize().x > 0;
+}
+
+/// A control that lies outside what holds it; nullptr: none.
+const wxWindow* Outside(const wxWindow& window) {
+  if (!window.IsShownOnScreen()) return nullptr;
+  const bool holds = IsOneOf<wxPanel, wxDialog>(window);
+  const wxRect room(wxPoint(), window.GetVirtualSize());
+  for (const wxWindow* child : window.GetChildren()) {
+    if (!IsThere(*child)) continue;
+    if (holds && !room.Contains(child->GetRect())) return child;
+    if (const wxWindow* outside = Outside(*child)) return outside;
+  }
+  return nullptr;
+}
+
+/// The window manager may grant the size later, and the pages take theirs from the form.
+void WaitForRoom(const wxTopLevelWindow& form) {
+  const auto fits = [&] {
+    const wxSize needed = form.GetSizer() ? form.GetSizer()->GetMinSize() : wxSize();
+    return form.GetClientSize().x >= needed.x && form.GetClientSize().y >= needed.y && !Outside(form);
+  };
+  try {
+    WaitFor(fits, "room for all controls");
+  } catch (const std::runtime_error& error) {
+    const wxWindow* outside = Outside(form);
+    ADD_FAILURE() << Place(outside ? *outside : form) << ": " << error.what();
+  }
+}
+
+void ExpectApart(const wxWindow& holder) {
   std::vector<const wxWindow*> shown;
   for (const wxWindow* child : holder.GetChildren()) {
-    if (!child->IsShown() || child->IsTopLevel() || child->GetSize().x == 0) continue;
-    EXPECT_TRUE(room.Contains(child->GetRect())) << Place(*child) << " lies outside";
-    if (dynamic_cast<const wxStaticBox*>(child)) continue;
+    if (!IsThere(*child) || dynamic_cast<const wxStaticBox*>(child)) continue;
     for (const wxWindow* other : shown) {
       EXPECT_FALSE(child->GetRect().Intersects(other->GetRect()))
           << Place(*child) << " lies over " << Place(*other);
@@ -107,7 +137,7 @@ void LookAt(const wxWindow& window, AccessKeys& keys) {
   }
   if (const auto* list = dynamic_cast<const wxListCtrl*>(&window)) return ExpectWholeHeadings(*list);
   if (const auto* bar = dynamic_cast<const wxStatusBar*>(&window)) return ExpectWholeFields(*bar);
-  if (IsOneOf<wxPanel, wxDialog>(window)) ExpectInsideAndApart(window);
+  if (IsOneOf<wxPanel, wxDialog>(window)) ExpectApart(window);
   for (const wxWindow* child : window.GetChildren()) {
     if (!child->IsTopLevel()) LookAt(*child, keys);
   }
@@ -137,12 +167,7 @@ void InEveryLanguage(const std::function<void()>& look) {
 }
 
 void ExpectFits(const wxTopLevelWindow& form) {
-  // The window manager may grant the size later.
-  const auto grown = [&] {
-    const wxSize needed = form.GetSizer() ? form.GetSizer()->GetMinSize() : wxSize();
-    return form.GetClientSize().x >= needed.x && form.GetClientSize().y >= needed.y;
-  };
-  WaitFor(grown, "room for all controls of " + form.GetName().utf8_string());
+  WaitForRoom(form);
   AccessKeys keys;
   LookAt(form, keys);
   const auto* frame = dynamic_cast<const wxFrame*>(&form);
