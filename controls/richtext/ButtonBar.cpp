@@ -4,6 +4,7 @@
 #include <wx/combobox.h>
 #include <wx/fontenum.h>
 #include <wx/toolbar.h>
+#include <wx/xrc/xmlres.h>
 
 #include <algorithm>
 
@@ -41,10 +42,27 @@ const std::vector<std::vector<const char*>>& Groups() {
   return groups;
 }
 
-/// A tool's place among the commands is its identifier's distance from the first.
+/// Runs from left to right in a mirrored form too: letters and lines of text in its pictures would be
+/// mirrored.
+class GroupBar : public wxToolBar {
+ public:
+  using wxToolBar::wxToolBar;
+  void SetLayoutDirection(wxLayoutDirection) override { wxToolBar::SetLayoutDirection(wxLayout_LeftToRight); }
+};
+
+/// A number of the toolkit's that stays reserved: those of windows are given anew when the last tool is gone.
 wxWindowID IdOf(const char* name) {
-  static const wxWindowID first = wxWindow::NewControlId(static_cast<int>(EditCommands().size()));
-  return first + static_cast<wxWindowID>(&CommandOf(name) - EditCommands().data());
+  return wxXmlResource::GetXRCID(wxString("edit-") + name);
+}
+
+/// Asked for once: some systems take long.
+const wxArrayString& Faces() {
+  static const wxArrayString faces = [] {
+    wxArrayString found = wxFontEnumerator::GetFacenames();
+    found.Sort();
+    return found;
+  }();
+  return faces;
 }
 
 }  // namespace
@@ -64,9 +82,7 @@ void ButtonBar::AddChoices() {
                          wxDefaultValidator, "cboFace");
   cboSize = new wxComboBox(this, wxID_ANY, wxString(), wxDefaultPosition, FromDIP(wxSize(kSizeWidth, -1)), 0,
                            nullptr, wxTE_PROCESS_ENTER, wxDefaultValidator, "cboSize");
-  wxArrayString faces = wxFontEnumerator::GetFacenames();
-  faces.Sort();
-  for (const wxString& face : faces) {
+  for (const wxString& face : Faces()) {
     // Faces for vertical text begin with an at sign.
     if (!face.StartsWith("@")) cboFace->Append(face);
   }
@@ -81,9 +97,8 @@ void ButtonBar::AddChoices() {
 }
 
 void ButtonBar::AddGroup(const std::vector<const char*>& commands) {
-  auto* bar =
-      new wxToolBar(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                    wxTB_FLAT | wxTB_HORIZONTAL | wxTB_NODIVIDER, wxString("tbr-") + commands.front());
+  auto* bar = new GroupBar(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                           wxTB_FLAT | wxTB_HORIZONTAL | wxTB_NODIVIDER, wxString("tbr-") + commands.front());
   for (const char* name : commands) {
     const EditCommand& command = CommandOf(name);
     bar->AddTool(IdOf(name), wxString(), LoadImage(wxString("edit-") + name, kToolSize), wxString(),
@@ -96,6 +111,7 @@ void ButtonBar::AddGroup(const std::vector<const char*>& commands) {
         },
         IdOf(name));
   }
+  bar->SetLayoutDirection(wxLayout_LeftToRight);
   bar->Realize();
   groups_.push_back(bar);
 }

@@ -21,6 +21,25 @@ void RegisterXml() {
     wxRichTextBuffer::AddHandler(new wxRichTextXMLHandler);
 }
 
+/// After loading: the space around the text, and for tables without a font of their own that of the text,
+/// which they do not take by themselves.
+void CompleteStyle(RichEditor& editor) {
+  constexpr int kSpaceAround = 5;
+  editor.SetMargins(kSpaceAround);
+  for (auto* node = editor.GetBuffer().GetChildren().GetFirst(); node; node = node->GetNext()) {
+    auto* paragraph = dynamic_cast<wxRichTextParagraph*>(node->GetData());
+    if (!paragraph) continue;
+    for (auto* part = paragraph->GetChildren().GetFirst(); part; part = part->GetNext()) {
+      auto* table = dynamic_cast<wxRichTextTable*>(part->GetData());
+      if (!table || table->GetAttributes().HasFontPointSize()) continue;
+      wxRichTextAttr format = editor.GetBasicStyle();
+      format.GetTextBoxAttr() = wxTextBoxAttr();
+      wxRichTextApplyStyle(format, table->GetAttributes());
+      table->SetAttributes(format);
+    }
+  }
+}
+
 int MessageOf(DocumentState state) {
   switch (state) {
     case DocumentState::Broken:
@@ -62,6 +81,7 @@ void Document::Show(const std::string& xml) {
     editor_->UseBaseStyle();
     if (!buffer.LoadFile(stream, wxRICHTEXT_TYPE_XML))
       throw Error(ErrorNumber::Unexpected, "the rich-text component refused a document");
+    CompleteStyle(*editor_);
     buffer.Invalidate(wxRICHTEXT_ALL);
   });
 }

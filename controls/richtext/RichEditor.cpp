@@ -28,7 +28,6 @@ RichEditor::RichEditor(wxWindow* parent, const wxString& name)
   SetBackgroundColour(*wxWHITE);
   SetDelayedLayoutThreshold(kLargeText);
   EnableImages(false);
-  SetMargins(kSpaceAround);
   SetLayoutDirection(wxLayout_LeftToRight);
   UseBaseStyle();
   BindChanges();
@@ -44,6 +43,7 @@ void RichEditor::UseBaseStyle() {
   style.SetParagraphSpacingAfter(0);
   style.SetParagraphSpacingBefore(0);
   SetBasicStyle(style);
+  SetMargins(kSpaceAround);
 }
 
 void RichEditor::BindChanges() {

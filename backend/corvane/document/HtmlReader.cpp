@@ -51,6 +51,14 @@ constexpr std::pair<std::string_view, const char*> kStyleOfParagraph[] = {{"p", 
                                                                           {"dt", ""},
                                                                           {"dd", ""}};
 
+/// As the editor's styles look in a text of ten points.
+std::string_view LookOfStyle(std::string_view style) {
+  if (style == "Heading 1") return "font-size:18pt;font-weight:bold";
+  if (style == "Heading 2") return "font-size:14pt;font-weight:bold";
+  if (style == "Heading 3") return "font-size:12pt;font-weight:bold";
+  return "font-style:italic";
+}
+
 template <typename Table>
 auto FindIn(const Table& table, std::string_view name) {
   return std::find_if(std::begin(table), std::end(table),
@@ -179,8 +187,10 @@ void HtmlReader::StartParagraph(const HtmlToken& token) {
   if (!isItem) paragraph_ = {};
   auto paragraph = Paragraph();
   const auto known = FindIn(kStyleOfParagraph, token.name);
-  if (known != std::end(kStyleOfParagraph) && *known->second)
+  if (known != std::end(kStyleOfParagraph) && *known->second) {
     SetAttribute(paragraph, "parstyle", known->second);
+    ReadHtmlStyle(LookOfStyle(known->second), paragraph);
+  }
   const auto align = token.Attribute("align");
   ReadHtmlStyle((align.empty() ? "" : "text-align:" + align + ';') + token.Attribute("style"), paragraph);
 }

@@ -28,7 +28,7 @@ std::string ParagraphsOfHtml(const std::string& html) {
 TEST(DocumentHtmlTest, WritesAndReadsWhatDocumentsHold) {
   const std::string kept[] = {
       R"(<paragraph alignment="3"><text>"to the right"</text></paragraph>)",
-      R"(<paragraph parstyle="Heading 1"><text>"a heading"</text></paragraph><paragraph><text>"text"</text></paragraph>)",
+      R"(<paragraph parstyle="Heading 1" fontpointsize="18" fontweight="700"><text>"a heading"</text></paragraph><paragraph><text>"text"</text></paragraph>)",
       R"(<paragraph><text textcolor="#FF0000" fontweight="700" fontface="DejaVu Sans" fontpointsize="12" )"
       R"(fontstyle="93" fontunderlined="1">"red"</text><text>" &amp; plain"</text></paragraph>)",
       R"(<paragraph rightindent="55" leftindent="200" leftsubindent="-100"><text>"indented"</text></paragraph>)",
