@@ -186,19 +186,46 @@ ExplorerRow ExplorerListPane::Row(std::int64_t row) const {
 
 std::vector<ExplorerRow> ExplorerListPane::KeyedRows() const {
   ExplorerRows& source = *list_->Rows().Source();
+  const auto& keyed = list_->Keys().Rows();
   std::vector<ExplorerRow> result;
-  for (const auto& [position, key] : list_->Keys().Rows()) {
+  std::vector<ExplorerRow> page;  // rows from `first` on
+  std::int64_t first = 0;
+  for (std::size_t i = 0; i < keyed.size(); ++i) {
+    const auto& [position, key] = keyed[i];
     const ExplorerRow* cached = list_->Cache().Peek(position);
     if (cached && cached->key == key) {
       result.push_back(*cached);
       continue;
     }
-    // The list may have changed behind the screen: what was selected is the key, not the place.
+    if (position < first || position >= first + static_cast<std::int64_t>(page.size())) {
+      // Neighbours are read together.
+      std::size_t end = i + 1;
+      while (end < keyed.size() && keyed[end].first == keyed[end - 1].first + 1) ++end;
+      first = position;
+      page = source.Page(position, static_cast<std::int64_t>(end - i));
+    }
+    const auto place = static_cast<std::size_t>(position - first);
+    if (place < page.size() && page[place].key == key) {
+      result.push_back(page[place]);
+      continue;
+    }
+    // The list has changed behind the screen: what was selected is the key, not the place.
     const std::int64_t present = source.PositionOf(key);
-    std::vector<ExplorerRow> page = present < 0 ? std::vector<ExplorerRow>() : source.Page(present, 1);
-    if (!page.empty() && page.front().key == key) result.push_back(std::move(page.front()));
+    const auto moved = present < 0 ? std::vector<ExplorerRow>() : source.Page(present, 1);
+    if (!moved.empty() && moved.front().key == key) result.push_back(moved.front());
   }
   return result;
+}
+
+std::vector<wxString> ExplorerListPane::SelectedKeys() const {
+  std::vector<wxString> keys;
+  if (list_->Keys().Complete()) {
+    keys.reserve(list_->Keys().Rows().size());
+    for (const auto& keyed : list_->Keys().Rows()) keys.push_back(keyed.second);
+    return keys;
+  }
+  for (auto& row : SelectedRows()) keys.push_back(std::move(row.key));
+  return keys;
 }
 
 std::vector<ExplorerRow> ExplorerListPane::SelectedRows() const {

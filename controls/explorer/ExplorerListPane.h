@@ -41,6 +41,7 @@ class ExplorerListPane : public wxPanel {
   /// Straight from the source: a command must not go on with half of the selection, so its failures are
   /// thrown.
   std::vector<ExplorerRow> SelectedRows() const;
+  std::vector<wxString> SelectedKeys() const;
   ExplorerRow Row(std::int64_t row) const;
 
   void SortBy(int column, bool descending);

@@ -77,9 +77,13 @@ class ctExplorer : public wxPanel {
   std::int64_t SelectedListCount() const;
   /// In list order. Reads pages: for commands, not for painting.
   std::vector<ExplorerRow> SelectedListRows() const;
+  /// Their keys alone, which mostly need not be read.
+  std::vector<wxString> SelectedListKeys() const;
   ExplorerRow ListRow(std::int64_t row) const;
   /// Selects only that row and shows it.
   void SelectListRow(std::int64_t row);
+  /// Selects only those rows and shows the first of them; ascending.
+  void SelectListRows(const std::vector<std::int64_t>& rows);
   void SelectAllListRows();
   void SortBy(int column, bool descending);
   int SortColumn() const;
@@ -92,6 +96,10 @@ class ctExplorer : public wxPanel {
   /// Gives the rows check boxes. `isChecked` is asked whenever a row is drawn: it must be quick, ask no back
   /// end and throw nothing.
   void SetCheckBoxes(std::function<bool(const ExplorerRow& row)> isChecked);
+  /// Who may not change what the check boxes tell can still scroll, search and sort: clicks on the boxes of a
+  /// locked list do nothing, and it shows that by its background.
+  void SetLocked(bool locked);
+  bool Locked() const;
   /// Does what a click on the row's check box does; a row that is not there changes nothing.
   void ClickCheck(std::int64_t row);
   /// Draws the rows anew whose check marks the program has changed.
