@@ -32,8 +32,12 @@ std::vector<wxBitmapBundle> StateImages() {
 
 frmSelectUnit::frmSelectUnit(wxWindow* parent, Flag lacks)
     : FormDialog(WithControls(parent), "frmSelectUnit"), lacks_(std::move(lacks)) {
-  if (!lacks_) lacks_ = [](const Corvane::User& user) { return !user.Enabled(); };
+  const bool marksDisabled = !lacks_;
+  if (marksDisabled) lacks_ = [](const Corvane::User& user) { return !user.Enabled(); };
   ctNotPrivilege = Find<ctExplorer>("ctNotPrivilege");
+  lblMarked = Find<wxStaticText>("lblMarked");
+  // It tells what the mark means.
+  lblMarked->Show(marksDisabled);
   lblCount = Find<wxStaticText>("lblCount");
   SetButtons("cmdOK", "cmdCancel");
   Find<wxButton>("cmdOK")->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { CmdOK_Click(); });
@@ -61,6 +65,7 @@ void frmSelectUnit::Form_Load() {
   PrepareDirectoryList(*ctNotPrivilege);
   ctNotPrivilege->SetImages(StateImages());
   ShowAllUser();
+  SelectThoseWithoutMark();
   ctNotPrivilege->FocusList();
   CentreOnParent();
 }
@@ -88,9 +93,20 @@ void frmSelectUnit::ShowAllUser() try {
   mindloft::Raise("frmSelectUnit", "ShowAllUser");
 }
 
+void frmSelectUnit::SelectThoseWithoutMark() {
+  std::vector<std::int64_t> plain;
+  std::int64_t place = 0;
+  for (const auto& row : rows_->Page(0, rows_->Count())) {
+    if (row.image == PlainUser) plain.push_back(place);
+    ++place;
+  }
+  ctNotPrivilege->SelectListRows(plain);
+  ShowUserCounts(*lblCount, *ctNotPrivilege);
+}
+
 void frmSelectUnit::CmdOK_Click() try {
   if (!MayTakeSelected(*ctNotPrivilege)) return;
-  for (const auto& row : ctNotPrivilege->SelectedListRows()) result_.push_back(row.key);
+  result_ = ctNotPrivilege->SelectedListKeys();
   EndModal(wxID_OK);
 } catch (...) {
   ShowError("frmSelectUnit", "CmdOK_Click");

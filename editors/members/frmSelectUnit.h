@@ -19,6 +19,10 @@ class ctExplorer;
 
 /// Shows users, those that lack something marked by their image, and lets the user pick any number of them;
 /// writes nothing.
+///
+/// The member lists of the sheets open it when disabled accounts are among those who were picked: the
+/// privileges of a group or role are of no use to them, and once they are enabled again they would have them
+/// unnoticed.
 class frmSelectUnit : public FormDialog {
  public:
   using Users = std::vector<std::shared_ptr<Corvane::User>>;
@@ -29,13 +33,15 @@ class frmSelectUnit : public FormDialog {
   /// them.
   explicit frmSelectUnit(wxWindow* parent, Flag lacks = {});
 
-  /// Shows the users modally; the keys of the selected ones, in list order. None when it was cancelled.
+  /// Shows the users modally, those who lack nothing selected; the keys of the selected ones, in list order.
+  /// None when it was cancelled.
   std::vector<wxString> Display(const Users& users);
   void LoadInfoOnForm() override;
 
  private:
   void Form_Load();
   void ShowAllUser();
+  void SelectThoseWithoutMark();
   void CmdOK_Click();
   void CmdCancel_Click();
   void ctNotPrivilege_lvItemDblClick();
@@ -48,6 +54,7 @@ class frmSelectUnit : public FormDialog {
   Refresh::Subscription language_;
 
   ctExplorer* ctNotPrivilege = nullptr;
+  wxStaticText* lblMarked = nullptr;
   wxStaticText* lblCount = nullptr;
 };
 

@@ -154,7 +154,8 @@ TEST_F(PickerTest, MarksWhoLacksAPrivilege) {
   ModalDriver modal;
   modal.ExpectForm("frmSelectUnit", [&](User& user) {
     EXPECT_EQ(images(user), std::pair(2, 3));
-    EXPECT_EQ(Explorer(user, "ctNotPrivilege").SelectedListCount(), 0);
+    EXPECT_TRUE(user.IsShown("lblMarked"));
+    EXPECT_EQ(Explorer(user, "ctNotPrivilege").SelectedListKeys(), std::vector{IdOf("anna")});
     user.Press('A', wxMOD_CONTROL, "list");
     user.Click("cmdOK");
   });
