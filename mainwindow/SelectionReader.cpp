@@ -45,9 +45,7 @@ std::vector<wxString> SelectionReader::Keys() const {
 }
 
 std::vector<wxString> SelectionReader::ListKeys() const {
-  std::vector<wxString> keys;
-  for (const auto& row : area_.Explorer().SelectedListRows()) keys.push_back(row.key);
-  return keys;
+  return area_.Explorer().SelectedListKeys();
 }
 
 }  // namespace mindloft

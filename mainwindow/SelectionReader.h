@@ -33,7 +33,7 @@ class SelectionReader {
                   const DomainContexts& domains, const DirectoryLists& lists);
 
   SelectionState Read() const;
-  /// The keys of the selected objects, in list order. Reads pages.
+  /// The keys of the selected objects, in list order. Reads pages when there are many.
   std::vector<wxString> Keys() const;
   /// The same for the rows of the list alone, whatever they are.
   std::vector<wxString> ListKeys() const;

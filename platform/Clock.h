@@ -19,6 +19,8 @@ class FakeClock {
   FakeClock& operator=(const FakeClock&) = delete;
   void Set(std::int64_t milliseconds);
   void Advance(std::int64_t milliseconds);
+  /// From now on both clocks go on by so much after each reading: what is measured takes that long.
+  void AdvanceAtReading(std::int64_t milliseconds);
 };
 
 }  // namespace mindloft::platform

@@ -44,9 +44,10 @@ std::shared_ptr<Users> DGroup::Members() const {
   return std::make_shared<Users>(session_, Collection::GroupMembers, stored_.id);
 }
 
-void DGroup::ChangeMembers(const std::string& additions, const std::string& removals) {
+void DGroup::ChangeMembers(const std::string& additions, const std::string& removals,
+                           const Progress& progress) {
   stored_.version = ChangeMemberships(*session_, Membership::GroupMembers, {stored_.id, stored_.version},
-                                      additions, removals);
+                                      additions, removals, progress);
 }
 
 std::shared_ptr<Users> DGroup::GetUsersNotAccessible() const {

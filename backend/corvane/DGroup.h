@@ -4,6 +4,7 @@
 #include <string>
 
 #include "backend/corvane/View.h"
+#include "backend/directory/Changes.h"
 
 namespace mindloft::Corvane {
 
@@ -31,7 +32,8 @@ class DGroup {
   void CancelEdit(bool cancel);
   std::shared_ptr<Users> Members() const;
   /// Two lists of user identifiers joined by ";": stored at once.
-  void ChangeMembers(const std::string& additions, const std::string& removals);
+  void ChangeMembers(const std::string& additions, const std::string& removals,
+                     const Progress& progress = {});
   /// Users of the domain who are not members: all of them while the group is new.
   std::shared_ptr<Users> GetUsersNotAccessible() const;
   const GroupRecord& Stored() const { return stored_; }

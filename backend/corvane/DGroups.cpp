@@ -15,6 +15,13 @@ std::shared_ptr<DGroup> DGroups::Item(const std::string& id) const {
   return std::make_shared<DGroup>(session_, std::move(*record));
 }
 
+std::vector<std::shared_ptr<DGroup>> DGroups::Items(const std::vector<ObjectId>& ids) const {
+  std::vector<std::shared_ptr<DGroup>> groups;
+  for (auto& record : session_->Door().FindGroups(session_->id, ids))
+    if (record.domain == domain_) groups.push_back(std::make_shared<DGroup>(session_, std::move(record)));
+  return groups;
+}
+
 std::int64_t DGroups::Count() const {
   return View().Count();
 }

@@ -17,6 +17,8 @@ class DGroups {
   DGroups(std::shared_ptr<Session> session, ObjectId domain);
   /// Nothing when there is none.
   std::shared_ptr<DGroup> Item(const std::string& id) const;
+  /// Those of the groups that there are, in the given order: one question for all.
+  std::vector<std::shared_ptr<DGroup>> Items(const std::vector<ObjectId>& ids) const;
   std::int64_t Count() const;
   GroupView View() const;
   /// The group of that kind; nothing when there is none.

@@ -59,9 +59,10 @@ void KDomain::CancelEdit(bool cancel) {
   copy_ = {};
 }
 
-void KDomain::ChangeUsers(const std::string& additions, const std::string& removals) {
+void KDomain::ChangeUsers(const std::string& additions, const std::string& removals,
+                          const Progress& progress) {
   stored_.version = ChangeMemberships(*session_, Membership::DomainUsers, {stored_.id, stored_.version},
-                                      additions, removals);
+                                      additions, removals, progress);
 }
 
 std::shared_ptr<Users> KDomain::GetUsersNotAccessible() const {

@@ -34,7 +34,7 @@ class KDomain {
   void Update(const Progress& progress = {});
   void CancelEdit(bool cancel);
   /// Two lists of user identifiers joined by ";": stored at once.
-  void ChangeUsers(const std::string& additions, const std::string& removals);
+  void ChangeUsers(const std::string& additions, const std::string& removals, const Progress& progress = {});
   std::shared_ptr<Users> GetUsersNotAccessible() const;
   const DomainRecord& Stored() const { return stored_; }
   /// The stored record with the puts that wait for Update.

@@ -19,9 +19,10 @@ std::shared_ptr<Users> Role::Members() const {
   return std::make_shared<Users>(session_, Collection::RoleMembers, stored_.id);
 }
 
-void Role::ChangeMembers(const std::string& additions, const std::string& removals) {
+void Role::ChangeMembers(const std::string& additions, const std::string& removals,
+                         const Progress& progress) {
   stored_.version = ChangeMemberships(*session_, Membership::RoleMembers, {stored_.id, stored_.version},
-                                      additions, removals);
+                                      additions, removals, progress);
 }
 
 std::shared_ptr<Users> Role::GetUsersNotAccessible() const {

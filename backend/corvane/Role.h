@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "backend/corvane/View.h"
+#include "backend/directory/Changes.h"
 
 namespace mindloft::Corvane {
 
@@ -22,7 +23,8 @@ class Role {
   bool BuiltIn() const { return stored_.builtIn; }
   std::shared_ptr<Users> Members() const;
   /// Two lists of user identifiers joined by ";": stored at once.
-  void ChangeMembers(const std::string& additions, const std::string& removals);
+  void ChangeMembers(const std::string& additions, const std::string& removals,
+                     const Progress& progress = {});
   /// Users who do not hold the role.
   std::shared_ptr<Users> GetUsersNotAccessible() const;
   const RoleRecord& Stored() const { return stored_; }

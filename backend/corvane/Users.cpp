@@ -21,6 +21,18 @@ std::shared_ptr<User> Users::Item(const std::string& id) const {
   return record ? std::make_shared<User>(session_, std::move(*record)) : nullptr;
 }
 
+std::vector<std::shared_ptr<User>> Users::Items(const std::vector<ObjectId>& ids) const {
+  std::vector<std::shared_ptr<User>> users;
+  users.reserve(ids.size());
+  for (auto& record : session_->Door().FindUsers(session_->id, ids))
+    users.push_back(std::make_shared<User>(session_, std::move(record)));
+  return users;
+}
+
+std::vector<ObjectVersion> Users::Versions(const std::vector<ObjectId>& ids) const {
+  return session_->Door().VersionsIn(session_->id, collection_, scope_, ids);
+}
+
 std::int64_t Users::Count() const {
   return View().Count();
 }
@@ -41,7 +53,7 @@ void Users::Delete(const std::vector<ObjectVersion>& users, const Progress& prog
   MembershipChange change{OwnMembership(), Owner(), {}, {}};
   change.removals.reserve(users.size());
   for (const auto& user : users) change.removals.push_back(user.id);
-  if (!users.empty()) session_->Door().ChangeMembers(session_->id, change);
+  if (!users.empty()) session_->Door().ChangeMembers(session_->id, change, progress);
 }
 
 Membership Users::OwnMembership() const {

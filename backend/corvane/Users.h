@@ -17,6 +17,12 @@ class Users {
   Users(std::shared_ptr<Session> session, Collection collection, ObjectId scope);
   /// Nothing when the collection has no user of that identifier; no error.
   std::shared_ptr<User> Item(const std::string& id) const;
+  /// Those of the directory's users whom there are, whether in the collection or not, in the given order: one
+  /// question for all.
+  std::vector<std::shared_ptr<User>> Items(const std::vector<ObjectId>& ids) const;
+  /// Those of the users who are in the collection, in the given order, with their versions: one question for
+  /// all.
+  std::vector<ObjectVersion> Versions(const std::vector<ObjectId>& ids) const;
   std::int64_t Count() const;
   UserView View() const;
   /// A new user, stored by its first Update.

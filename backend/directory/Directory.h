@@ -72,14 +72,21 @@ class Directory {
   virtual std::int64_t PositionOf(SessionId session, const Query& query, ObjectId object) = 0;
   /// Whether the object belongs to the collection (the query's filter and order do not matter).
   virtual bool Contains(SessionId session, Collection collection, ObjectId scope, ObjectId object) = 0;
+  /// Those of the objects that belong to the collection, in the given order and with their versions: what is
+  /// selected in a list, in one call however much it is.
+  virtual std::vector<ObjectVersion> VersionsIn(SessionId session, Collection collection, ObjectId scope,
+                                                const std::vector<ObjectId>& objects) = 0;
 
   // Single objects
   // ------------------------------------------------------------------------------------------------
 
   virtual std::optional<UserRecord> FindUser(SessionId session, ObjectId id) = 0;
+  /// Those that there are, in the given order; likewise FindGroups.
+  virtual std::vector<UserRecord> FindUsers(SessionId session, const std::vector<ObjectId>& ids) = 0;
   virtual std::optional<RoleRecord> FindRole(SessionId session, ObjectId id) = 0;
   virtual std::optional<DomainRecord> FindDomain(SessionId session, ObjectId id) = 0;
   virtual std::optional<GroupRecord> FindGroup(SessionId session, ObjectId id) = 0;
+  virtual std::vector<GroupRecord> FindGroups(SessionId session, const std::vector<ObjectId>& ids) = 0;
   virtual std::optional<StyleRecord> FindStyle(SessionId session, ObjectId id) = 0;
   /// By login name, without regard to case.
   virtual std::optional<UserRecord> FindUserByName(SessionId session, std::string_view name) = 0;
@@ -105,7 +112,8 @@ class Directory {
   virtual void DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups) = 0;
 
   /// Returns the owner's new version.
-  virtual Version ChangeMembers(SessionId session, const MembershipChange& change) = 0;
+  virtual Version ChangeMembers(SessionId session, const MembershipChange& change,
+                                const Progress& progress) = 0;
 
   virtual StyleRecord CreateStyle(SessionId session, const StyleRecord& style) = 0;
   virtual StyleRecord ChangeStyle(SessionId session, const StyleChange& change) = 0;

@@ -57,6 +57,10 @@ std::optional<UserRecord> SqliteDirectoryImpl::FindUser(SessionId session, Objec
   return Read(session, [&](const Caller&) { return users_.Find(id); });
 }
 
+std::vector<UserRecord> SqliteDirectoryImpl::FindUsers(SessionId session, const std::vector<ObjectId>& ids) {
+  return Read(session, [&](const Caller&) { return users_.Read(ids); });
+}
+
 std::optional<RoleRecord> SqliteDirectoryImpl::FindRole(SessionId session, ObjectId id) {
   return Read(session, [&](const Caller&) { return roles_.Find(id); });
 }
@@ -67,6 +71,11 @@ std::optional<DomainRecord> SqliteDirectoryImpl::FindDomain(SessionId session, O
 
 std::optional<GroupRecord> SqliteDirectoryImpl::FindGroup(SessionId session, ObjectId id) {
   return Read(session, [&](const Caller&) { return groups_.Find(id); });
+}
+
+std::vector<GroupRecord> SqliteDirectoryImpl::FindGroups(SessionId session,
+                                                         const std::vector<ObjectId>& ids) {
+  return Read(session, [&](const Caller&) { return groups_.Read(ids); });
 }
 
 std::optional<StyleRecord> SqliteDirectoryImpl::FindStyle(SessionId session, ObjectId id) {
@@ -133,8 +142,9 @@ void SqliteDirectoryImpl::DeleteGroups(SessionId session, const std::vector<Obje
   Write(session, [&](const Caller& caller) { groups_.Delete(caller, groups); });
 }
 
-Version SqliteDirectoryImpl::ChangeMembers(SessionId session, const MembershipChange& change) {
-  return Write(session, [&](const Caller& caller) { return memberships_.Change(caller, change); });
+Version SqliteDirectoryImpl::ChangeMembers(SessionId session, const MembershipChange& change,
+                                           const Progress& progress) {
+  return Write(session, [&](const Caller& caller) { return memberships_.Change(caller, change, progress); });
 }
 
 StyleRecord SqliteDirectoryImpl::CreateStyle(SessionId session, const StyleRecord& style) {

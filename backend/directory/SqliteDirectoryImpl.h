@@ -10,6 +10,7 @@
 #include "backend/directory/session/Rights.h"
 #include "backend/directory/session/Sessions.h"
 #include "backend/directory/sqlite/Database.h"
+#include "backend/directory/store/CollectionVersions.h"
 #include "backend/directory/store/CollectionWindows.h"
 #include "backend/directory/store/Collections.h"
 #include "backend/directory/store/ConfigurationStore.h"
@@ -53,11 +54,15 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
                           std::int64_t from) override;
   std::int64_t PositionOf(SessionId session, const Query& query, ObjectId object) override;
   bool Contains(SessionId session, Collection collection, ObjectId scope, ObjectId object) override;
+  std::vector<ObjectVersion> VersionsIn(SessionId session, Collection collection, ObjectId scope,
+                                        const std::vector<ObjectId>& objects) override;
 
   std::optional<UserRecord> FindUser(SessionId session, ObjectId id) override;
+  std::vector<UserRecord> FindUsers(SessionId session, const std::vector<ObjectId>& ids) override;
   std::optional<RoleRecord> FindRole(SessionId session, ObjectId id) override;
   std::optional<DomainRecord> FindDomain(SessionId session, ObjectId id) override;
   std::optional<GroupRecord> FindGroup(SessionId session, ObjectId id) override;
+  std::vector<GroupRecord> FindGroups(SessionId session, const std::vector<ObjectId>& ids) override;
   std::optional<StyleRecord> FindStyle(SessionId session, ObjectId id) override;
   std::optional<UserRecord> FindUserByName(SessionId session, std::string_view name) override;
 
@@ -73,7 +78,7 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
   GroupRecord CreateGroup(SessionId session, const GroupRecord& group) override;
   GroupRecord ChangeGroup(SessionId session, const GroupChange& change) override;
   void DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups) override;
-  Version ChangeMembers(SessionId session, const MembershipChange& change) override;
+  Version ChangeMembers(SessionId session, const MembershipChange& change, const Progress& progress) override;
   StyleRecord CreateStyle(SessionId session, const StyleRecord& style) override;
   StyleRecord ChangeStyle(SessionId session, const StyleChange& change) override;
   void DeleteStyle(SessionId session, const ObjectVersion& style) override;

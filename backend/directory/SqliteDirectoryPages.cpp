@@ -100,4 +100,11 @@ bool SqliteDirectoryImpl::Contains(SessionId session, Collection collection, Obj
   });
 }
 
+std::vector<ObjectVersion> SqliteDirectoryImpl::VersionsIn(SessionId session, Collection collection,
+                                                           ObjectId scope,
+                                                           const std::vector<ObjectId>& objects) {
+  return Read(session,
+              [&](const Caller&) { return CollectionVersions(*database_, collection, scope, objects); });
+}
+
 }  // namespace mindloft

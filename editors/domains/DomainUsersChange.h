@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "backend/directory/Changes.h"
+
 namespace mindloft {
 
 namespace Corvane {
@@ -12,6 +14,6 @@ class KDomain;
 /// others change in the domain meanwhile does not stand against it, since it says of each user where the user
 /// shall be; the domain object stays on the version that it is on.
 void ChangeDomainUsers(const Corvane::KDomain& domain, const std::string& additions,
-                       const std::string& removals);
+                       const std::string& removals, const Progress& progress);
 
 }  // namespace mindloft

@@ -5,12 +5,14 @@
 
 #include "backend/corvane/Corvane.h"
 #include "backend/corvane/IdList.h"
+#include "backend/tessaline/GroupedNumber.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "controls/explorer/ctExplorer.h"
 #include "controls/rows/DirectoryList.h"
 #include "controls/rows/UserRows.h"
 #include "core/ErrorHandling.h"
+#include "editors/LongChange.h"
 #include "editors/domains/DomainTexts.h"
 #include "editors/domains/DomainUsersChange.h"
 #include "editors/members/UserList.h"
@@ -70,10 +72,14 @@ void frmDUserAdd::SetButtonStatus() {
 }
 
 void frmDUserAdd::CmdOK_Click() try {
-  const wxBusyCursor busy;
   if (ctUser->SelectedListCount() == 0 || !MayTakeSelected(*ctUser)) return;
   const auto ids = SelectedItems();
-  ChangeDomainUsers(*domain_, Corvane::JoinIds(ids), {});
+  const auto caption = GetResource().GetFormatString(texts::kAddingUsers,
+                                                     {GroupedNumber(static_cast<std::int64_t>(ids.size()))});
+  if (!RunLongChange(this, caption, kPatience, [&](const Progress& progress) {
+        ChangeDomainUsers(*domain_, Corvane::JoinIds(ids), {}, progress);
+      }))
+    return;
   firstAdded_ = domain_->DUsers()->Item(Corvane::IdText(ids.front()));
   EndModal(wxID_OK);
 } catch (...) {
@@ -83,6 +89,7 @@ void frmDUserAdd::CmdOK_Click() try {
 }
 
 std::vector<ObjectId> frmDUserAdd::SelectedItems() const {
+  const wxBusyCursor busy;
   std::vector<ObjectId> ids;
   for (const auto& row : ctUser->SelectedListRows()) ids.push_back(IdOf(row));
   return ids;

@@ -36,7 +36,7 @@ class frmDUserAdd : public FormDialog {
   std::shared_ptr<ExplorerRows> Candidates() const;
   void SetButtonStatus();
   void CmdOK_Click();
-  /// The identifiers of the selected users, joined by ";", in list order.
+  /// The identifiers of the selected users, in list order.
   std::vector<ObjectId> SelectedItems() const;
 
   std::shared_ptr<Corvane::KDomain> domain_;

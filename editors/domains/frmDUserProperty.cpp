@@ -34,6 +34,7 @@ bool frmDUserProperty::OpenWindow(std::shared_ptr<Corvane::User> user,
   domain_ = std::move(domain);
   mayChange_ = MayChangeDomain(domain_, ManageDomainGroups);
   PrepareDirectoryList(*ctGroup);
+  ctGroup->SetLocked(!mayChange_);
   GetInfo();
   LoadInfoOnForm();
   Open();
@@ -67,7 +68,6 @@ void frmDUserProperty::SetButtonStatus() {
 }
 
 void frmDUserProperty::ctGroup_lvCheckClick(const ExplorerRow& row) {
-  if (!mayChange_) return;
   groups_.Toggle(IdOf(row));
   SetButtonStatus();
 }

@@ -17,12 +17,12 @@
 #include "controls/texts/UseTextBox.h"
 #include "core/ErrorHandling.h"
 #include "core/modShare.h"
+#include "editors/LongChange.h"
 #include "editors/domains/DomainCopyPage.h"
 #include "editors/domains/DomainFields.h"
 #include "editors/domains/DomainLists.h"
 #include "editors/domains/DomainRights.h"
 #include "editors/domains/DomainTexts.h"
-#include "editors/domains/LongChange.h"
 #include "editors/members/MemberList.h"
 #include "editors/members/frmDGroupProperty.h"
 
@@ -217,7 +217,7 @@ bool frmDomainInfo::SaveInfo() try {
     SetSaved();
   }
   if (users_->Changed()) {
-    users_->Save();
+    if (!users_->Save()) return false;
     users_->ClearChanged();
     SetSaved();
   }
@@ -227,7 +227,8 @@ bool frmDomainInfo::SaveInfo() try {
 }
 
 void frmDomainInfo::cmdApply_Click() {
-  if (RefuseBlankName() || !SaveInfo()) return;
+  if (RefuseBlankName()) return;
+  if (!SaveInfo()) return SetButtonStatus();
   ReadRights();
   ArrangePages();
   ShowCaption();
@@ -240,7 +241,7 @@ void frmDomainInfo::cmdApply_Click() {
 
 void frmDomainInfo::CmdOK_Click() {
   // A new domain that nobody has given a name yet is no slip: OK asks for one.
-  if ((HasChanges() || domain_->IsNew()) && (RefuseBlankName() || !SaveInfo())) return;
+  if ((HasChanges() || domain_->IsNew()) && (RefuseBlankName() || !SaveInfo())) return SetButtonStatus();
   CloseSheet(wxID_OK);
 }
 

@@ -18,12 +18,13 @@ struct Members {
 struct Change {
   const std::string& additions;
   const std::string& removals;
+  const Progress& progress;
   void operator()(const std::shared_ptr<Corvane::KDomain>& domain) const {
-    domain->ChangeUsers(additions, removals);
+    domain->ChangeUsers(additions, removals, progress);
   }
   template <typename Owner>
   void operator()(const Owner& owner) const {
-    owner->ChangeMembers(additions, removals);
+    owner->ChangeMembers(additions, removals, progress);
   }
 };
 
@@ -31,6 +32,10 @@ struct Change {
 
 std::string IdOf(const ListOwner& owner) {
   return std::visit([](const auto& object) { return object->Id(); }, owner);
+}
+
+std::string NameOf(const ListOwner& owner) {
+  return std::visit([](const auto& object) { return object->Name(); }, owner);
 }
 
 std::shared_ptr<Corvane::Users> MembersOf(const ListOwner& owner) {
@@ -41,8 +46,9 @@ std::shared_ptr<Corvane::Users> GetUsersNotAccessible(const ListOwner& owner) {
   return std::visit([](const auto& object) { return object->GetUsersNotAccessible(); }, owner);
 }
 
-void ChangeMembers(const ListOwner& owner, const std::string& additions, const std::string& removals) {
-  std::visit(Change{additions, removals}, owner);
+void ChangeMembers(const ListOwner& owner, const std::string& additions, const std::string& removals,
+                   const Progress& progress) {
+  std::visit(Change{additions, removals, progress}, owner);
 }
 
 }  // namespace mindloft

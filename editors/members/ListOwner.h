@@ -4,6 +4,8 @@
 #include <string>
 #include <variant>
 
+#include "backend/directory/Changes.h"
+
 namespace mindloft {
 
 namespace Corvane {
@@ -19,11 +21,13 @@ using ListOwner = std::variant<std::shared_ptr<Corvane::DGroup>, std::shared_ptr
 
 /// The owner's identifier; empty while it is new.
 std::string IdOf(const ListOwner& owner);
+std::string NameOf(const ListOwner& owner);
 /// The users in the owner's list as stored now.
 std::shared_ptr<Corvane::Users> MembersOf(const ListOwner& owner);
 /// Those whom the owner's operation of that name reports: who could be added.
 std::shared_ptr<Corvane::Users> GetUsersNotAccessible(const ListOwner& owner);
-/// Stores two lists of user identifiers joined by ";" as one change.
-void ChangeMembers(const ListOwner& owner, const std::string& additions, const std::string& removals);
+/// Stores two lists of user identifiers joined by ";" as one change. `progress`: see Progress.
+void ChangeMembers(const ListOwner& owner, const std::string& additions, const std::string& removals,
+                   const Progress& progress);
 
 }  // namespace mindloft

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "controls/explorer/ExplorerRows.h"
@@ -40,8 +41,10 @@ class MemberList {
   /// Whether members can be added and removed.
   void Enable(bool enabled);
 
-  /// Whether a user of that identifier is in the list already.
-  bool IfUserExist(const wxString& id) const;
+  /// Those of the users who are stored as members: one question for all.
+  std::unordered_set<wxString> StoredMembers(const std::vector<ExplorerRow>& users) const;
+  /// Whether a user of that identifier is in the list already; `stored`: see StoredMembers.
+  bool IfUserExist(const wxString& id, const std::unordered_set<wxString>& stored) const;
   /// The users selected in `ctUser`.
   std::vector<ExplorerRow> SelectedItems() const;
 
@@ -50,11 +53,14 @@ class MemberList {
   /// The changes that a save would store; adding and removing the same user leaves none.
   const MemberItems& Pending() const { return changedMembers_; }
   /// Stores the pending changes as one change of the owner and lists the members as they are stored then.
-  void Save();
+  /// False: the user has cancelled a long change; nothing is stored, and the changes are still pending.
+  bool Save();
   void ClearChanged() { changed_ = false; }
 
  private:
   void cmdAdd_Click();
+  /// Drops those of the disabled accounts that the user does not want after all.
+  void AskAboutDisabled(std::vector<ExplorerRow>& picked);
   void cmdRemove_Click();
   void MembersChanged();
   void ReloadMembers();

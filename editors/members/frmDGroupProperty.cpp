@@ -171,16 +171,17 @@ void frmDGroupProperty::PutInfo() {
   group_->SetDomainPrivileges(CheckedPrivileges());
 }
 
-void frmDGroupProperty::SaveInfo() try {
+bool frmDGroupProperty::SaveInfo() try {
   if (infoChanged_ && group_->Editable()) {
     PutInfo();
     group_->Update();
     SetSaved();
   }
   if (members_->Changed()) {
-    members_->Save();
+    if (!members_->Save()) return false;
     SetSaved();
   }
+  return true;
 } catch (...) {
   mindloft::Raise("frmDGroupProperty", "SaveInfo");
 }
@@ -195,12 +196,12 @@ void frmDGroupProperty::cmdApply_Click() {
     GetMessenger().ShowMessage(kNameIsBlankOnApply, {}, this);
     return;
   }
-  SaveInfo();
+  const bool saved = SaveInfo();
   ShowCaption();
   GetInfo();
-  ClearFlags();
+  if (saved) ClearFlags();
   SetButtonStatus();
-  cmdOK->SetFocus();
+  if (saved) cmdOK->SetFocus();
 }
 
 void frmDGroupProperty::CmdOK_Click() {
@@ -208,7 +209,7 @@ void frmDGroupProperty::CmdOK_Click() {
     GetMessenger().ShowMessage(kNameIsBlankOnOK, {}, this);
     return;
   }
-  SaveInfo();
+  if (!SaveInfo()) return SetButtonStatus();
   ClearFlags();
   CloseSheet(wxID_OK);
 }

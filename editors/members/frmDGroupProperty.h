@@ -48,7 +48,8 @@ class frmDGroupProperty : public PropertySheet {
   bool MayEdit() const;
   bool NameIsBlank() const;
   void PutInfo();
-  void SaveInfo();
+  /// False: the user has cancelled a long change of the members, which is still pending.
+  bool SaveInfo();
   void ClearFlags();
   void InfoChanged();
 

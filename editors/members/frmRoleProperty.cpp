@@ -66,16 +66,17 @@ void frmRoleProperty::SetButtonStatus() try { cmdApply->Enable(members_->Changed
   mindloft::Raise("frmRoleProperty", "SetButtonStatus");
 }
 
-void frmRoleProperty::SaveInfo() try {
-  if (members_->Pending().Empty()) return;
-  members_->Save();
+bool frmRoleProperty::SaveInfo() try {
+  if (members_->Pending().Empty()) return true;
+  if (!members_->Save()) return false;
   SetSaved();
+  return true;
 } catch (...) {
   mindloft::Raise("frmRoleProperty", "SaveInfo");
 }
 
 void frmRoleProperty::cmdApply_Click() {
-  SaveInfo();
+  if (!SaveInfo()) return;
   members_->ClearChanged();
   SetButtonStatus();
   cmdOK->SetFocus();
@@ -83,6 +84,7 @@ void frmRoleProperty::cmdApply_Click() {
 
 void frmRoleProperty::CmdOK_Click() {
   if (members_->Changed()) cmdApply_Click();
+  if (members_->Changed()) return;  // cancelled
   CloseSheet(wxID_OK);
 }
 

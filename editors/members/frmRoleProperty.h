@@ -33,7 +33,8 @@ class frmRoleProperty : public PropertySheet {
 
  private:
   void GetInfo();
-  void SaveInfo();
+  /// False: the user has cancelled a long change, which is still pending.
+  bool SaveInfo();
 
   std::shared_ptr<Corvane::Role> role_;
   std::unique_ptr<MemberList> members_;

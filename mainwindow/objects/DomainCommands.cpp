@@ -8,8 +8,9 @@
 #include "backend/tessaline/Text.h"
 #include "core/Refresh.h"
 #include "core/modShare.h"
-#include "editors/domains/LongChange.h"
+#include "editors/LongChange.h"
 #include "editors/domains/frmDomainInfo.h"
+#include "mainwindow/objects/FindObjects.h"
 #include "mainwindow/objects/ObjectTexts.h"
 #include "mainwindow/objects/Questions.h"
 
@@ -46,7 +47,7 @@ void DeleteSelectedDomains(const KindScope& scope, const std::vector<wxString>& 
 }
 
 void ShowDomainProperties(const KindScope& scope, const std::vector<wxString>& keys) {
-  const auto context = keys.empty() ? nullptr : scope.server->KDomains()->Item(ToUtf8(keys.front()));
+  const auto context = FirstObject(*scope.server->KDomains(), keys);
   if (!context) return GetMessenger().ShowMessage(texts::kObjectIsGone, {}, scope.owner);
   frmDomainInfo(scope.owner).OpenWindow(context->KDomain());
   GetRefresh()->Notify(ObjectKind::Domain, ObjectAction::Changed, context);

@@ -2,9 +2,10 @@
 
 #include "backend/corvane/Corvane.h"
 #include "backend/directory/Privileges.h"
+#include "backend/tessaline/GroupedNumber.h"
 #include "backend/tessaline/Services.h"
-#include "backend/tessaline/Text.h"
 #include "core/Refresh.h"
+#include "editors/LongChange.h"
 #include "editors/domains/DomainRights.h"
 #include "editors/domains/frmDUserAdd.h"
 #include "editors/domains/frmDUserProperty.h"
@@ -27,15 +28,19 @@ void RemoveDomainUsers(const KindScope& scope, const std::vector<wxString>& keys
   if (!ConfirmDeletion({texts::kRemoveDomainUser, texts::kRemoveDomainUsers}, keys.size(), scope.owner))
     return;
   const auto all = scope.domain->KDomain()->DUsers();
-  const auto users = FindObjects(*all, keys);
+  const auto users = all->Versions(IdsOf(keys));
   if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
-  all->Delete(VersionsOf(users));
   // One for all: the list of the domain's users is read anew.
-  GetRefresh()->Notify(ObjectKind::DomainUser, ObjectAction::Deleted, users.front());
+  const auto first = all->Item(Corvane::IdText(users.front().id));
+  const auto count = GroupedNumber(static_cast<std::int64_t>(users.size()));
+  const auto caption = GetResource().GetFormatString(texts::kRemovingDomainUsers, {count});
+  if (RunLongChange(scope.owner, caption, kPatience,
+                    [&](const Progress& progress) { all->Delete(users, progress); }))
+    GetRefresh()->Notify(ObjectKind::DomainUser, ObjectAction::Deleted, first);
 }
 
 void ShowDomainUserProperties(const KindScope& scope, const std::vector<wxString>& keys) {
-  const auto user = keys.empty() ? nullptr : scope.domain->KDomain()->DUsers()->Item(ToUtf8(keys.front()));
+  const auto user = FirstObject(*scope.domain->KDomain()->DUsers(), keys);
   if (!user) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
   frmDUserProperty(scope.owner).OpenWindow(user, scope.domain);
   GetRefresh()->Notify(ObjectKind::DomainUser, ObjectAction::Changed, user);

@@ -4,28 +4,24 @@
 
 #include <vector>
 
+#include "backend/corvane/Session.h"
 #include "backend/directory/Changes.h"
 #include "backend/tessaline/Text.h"
 
 namespace mindloft {
 
-/// Those of the keys' objects that are still in the collection.
-template <typename Collection>
-auto FindObjects(Collection& all, const std::vector<wxString>& keys) {
-  std::vector<decltype(all.Item({}))> objects;
-  objects.reserve(keys.size());
-  for (const auto& key : keys)
-    if (auto object = all.Item(ToUtf8(key))) objects.push_back(std::move(object));
-  return objects;
+/// The identifiers that the keys of rows stand for.
+inline std::vector<ObjectId> IdsOf(const std::vector<wxString>& keys) {
+  std::vector<ObjectId> ids;
+  ids.reserve(keys.size());
+  for (const auto& key : keys) ids.push_back(Corvane::IdFromText(ToUtf8(key)));
+  return ids;
 }
 
-/// What a deletion of the objects names.
-template <typename Objects>
-std::vector<ObjectVersion> VersionsOf(const Objects& objects) {
-  std::vector<ObjectVersion> versions;
-  versions.reserve(objects.size());
-  for (const auto& object : objects) versions.push_back({object->Stored().id, object->Stored().version});
-  return versions;
+/// The collection's object of the first key; nothing when it has gone.
+template <typename Collection>
+auto FirstObject(const Collection& all, const std::vector<wxString>& keys) {
+  return all.Item(keys.empty() ? std::string() : ToUtf8(keys.front()));
 }
 
 }  // namespace mindloft

@@ -22,22 +22,25 @@ void NewGroup(const KindScope& scope, const std::vector<wxString>&) {
 void DeleteSelectedGroups(const KindScope& scope, const std::vector<wxString>& keys) {
   if (!MayChangeDomain(scope.domain, ManageDomainGroups))
     return Refuse(texts::kMayNotDeleteGroups, Tessaline::kInformationTitle, scope.owner);
-  const auto groups = FindObjects(*scope.domain->KDomain()->DGroups(), keys);
+  const auto all = scope.domain->KDomain()->DGroups();
+  const auto groups = all->Items(IdsOf(keys));
   if (groups.empty()) return GetMessenger().ShowMessage(texts::kObjectIsGone, {}, scope.owner);
   for (const auto& group : groups)
     if (group->BuiltIn())
       return Refuse(texts::kBuiltIn, Tessaline::kInformationTitle, scope.owner, {ToWx(group->Name())});
   if (!ConfirmDeletion({texts::kDeleteGroup, texts::kDeleteGroups}, groups.size(), scope.owner)) return;
-  scope.domain->KDomain()->DGroups()->Delete(VersionsOf(groups));
+  std::vector<ObjectVersion> versions;
+  for (const auto& group : groups) versions.push_back({group->Stored().id, group->Stored().version});
+  all->Delete(versions);
   // One for all: the list of the domain's groups is read anew.
   GetRefresh()->Notify(ObjectKind::UserGroup, ObjectAction::Deleted, groups.front());
 }
 
 void ShowGroupProperties(const KindScope& scope, const std::vector<wxString>& keys) {
-  const auto groups = FindObjects(*scope.domain->KDomain()->DGroups(), keys);
-  if (groups.empty()) return GetMessenger().ShowMessage(texts::kObjectIsGone, {}, scope.owner);
-  frmDGroupProperty(scope.owner).OpenWindow(groups.front());
-  GetRefresh()->Notify(ObjectKind::UserGroup, ObjectAction::Changed, groups.front());
+  const auto group = FirstObject(*scope.domain->KDomain()->DGroups(), keys);
+  if (!group) return GetMessenger().ShowMessage(texts::kObjectIsGone, {}, scope.owner);
+  frmDGroupProperty(scope.owner).OpenWindow(group);
+  GetRefresh()->Notify(ObjectKind::UserGroup, ObjectAction::Changed, group);
 }
 
 }  // namespace mindloft

@@ -4,6 +4,7 @@
 #include "mainwindow/DomainContexts.h"
 #include "mainwindow/ObjectKindRegistry.h"
 #include "mainwindow/SelectionReader.h"
+#include "mainwindow/objects/Questions.h"
 
 namespace mindloft {
 
@@ -24,6 +25,7 @@ void ObjectCommands::DeleteObject() try {
   if (!selection.target || selection.targets == 0) return;
   const auto& remove = selection.target->remove;
   if (!remove.action || (selection.targets > 1 && !remove.onMany)) return;
+  if (!MayDeleteSelected(selection.targets, &owner_)) return;
   selection.scope.owner = &owner_;
   remove.action(selection.scope, selection_.Keys());
 } catch (...) {

@@ -21,8 +21,10 @@ inline constexpr int kDeleteDomains = 61703;      ///< %1 how many
 inline constexpr int kMayNotDeleteGroups = 61704;
 inline constexpr int kMayNotRemoveDomainUsers = 61705;
 inline constexpr int kObjectIsGone = 60041;
-inline constexpr int kBuiltIn = 60048;         ///< %1 its name
-inline constexpr int kDeletingDomain = 61710;  ///< %1 its name
-inline constexpr int kDeletingUsers = 61711;   ///< %1 how many
+inline constexpr int kBuiltIn = 60048;              ///< %1 its name
+inline constexpr int kDeletingDomain = 61710;       ///< %1 its name
+inline constexpr int kDeletingUsers = 61711;        ///< %1 how many
+inline constexpr int kTooManyToDelete = 61780;      ///< %1 how many at most, %2 how many are selected
+inline constexpr int kRemovingDomainUsers = 61782;  ///< %1 how many
 
 }  // namespace mindloft::texts

@@ -16,6 +16,13 @@ bool ConfirmDeletion(const DeletionQuestion& question, std::size_t count, wxWind
                             Buttons::YesNoDefaultNo, MessageKind::Question, parameters, owner);
 }
 
+bool MayDeleteSelected(std::int64_t selected, wxWindow* owner) {
+  if (selected <= kMostDeletedAtOnce) return true;
+  Refuse(texts::kTooManyToDelete, Tessaline::kInformationTitle, owner,
+         {GroupedNumber(kMostDeletedAtOnce), GroupedNumber(selected)});
+  return false;
+}
+
 void Refuse(int text, int title, wxWindow* owner, const std::vector<wxString>& parameters) {
   GetMessenger().Ask(text, title, Buttons::OK, MessageKind::Exclamation, parameters, owner);
 }

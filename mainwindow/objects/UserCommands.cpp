@@ -9,7 +9,7 @@
 #include "backend/tessaline/Text.h"
 #include "core/Refresh.h"
 #include "core/modShare.h"
-#include "editors/domains/LongChange.h"
+#include "editors/LongChange.h"
 #include "editors/user/frmUserDetail.h"
 #include "mainwindow/objects/FindObjects.h"
 #include "mainwindow/objects/ObjectTexts.h"
@@ -31,24 +31,25 @@ void DeleteSelectedUsers(const KindScope& scope, const std::vector<wxString>& ke
     return Refuse(texts::kOwnAccount, Tessaline::kInformationTitle, scope.owner);
   if (!CheckSysPrivilege(DeleteUsers))
     return Refuse(texts::kMayNotDeleteUsers, Tessaline::kInformationTitle, scope.owner);
-  const auto users = FindObjects(*scope.server->Users(), keys);
+  const auto all = scope.server->Users();
+  const auto users = all->Versions(IdsOf(keys));
   if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
-  const auto versions = VersionsOf(users);
   if (!ConfirmDeletion({texts::kDeleteUser, texts::kDeleteUsers}, users.size(), scope.owner)) return;
 
+  // One for all: what shows users shows all of them anew.
+  const auto first = all->Item(Corvane::IdText(users.front().id));
   const auto count = GroupedNumber(static_cast<std::int64_t>(users.size()));
   const auto caption = GetResource().GetFormatString(texts::kDeletingUsers, {count});
   if (RunLongChange(scope.owner, caption, kPatience,
-                    [&](const Progress& progress) { scope.server->Users()->Delete(versions, progress); }))
-    // One for all: what shows users shows all of them anew.
-    GetRefresh()->Notify(ObjectKind::User, ObjectAction::Deleted, users.front());
+                    [&](const Progress& progress) { all->Delete(users, progress); }))
+    GetRefresh()->Notify(ObjectKind::User, ObjectAction::Deleted, first);
 }
 
 void ShowUserProperties(const KindScope& scope, const std::vector<wxString>& keys) {
-  const auto users = FindObjects(*scope.server->Users(), keys);
-  if (users.empty()) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
-  frmUserDetail(scope.owner).OpenWindow(users.front());
-  GetRefresh()->Notify(ObjectKind::User, ObjectAction::Changed, users.front());
+  const auto user = FirstObject(*scope.server->Users(), keys);
+  if (!user) return GetMessenger().ShowMessage(texts::kUserIsGone, {}, scope.owner);
+  frmUserDetail(scope.owner).OpenWindow(user);
+  GetRefresh()->Notify(ObjectKind::User, ObjectAction::Changed, user);
 }
 
 }  // namespace mindloft

@@ -41,11 +41,11 @@ TEST_F(ConflictTest, TellsWhoChangedTheObjectAndWhen) {
       {"Group", [&](auto& d, auto s) { d.ChangeGroup(s, change(GroupChange(), group)); }},
       {"Domain",
        [&](auto& d, auto s) {
-         d.ChangeMembers(s, {Membership::DomainUsers, {domain.id, domain.version}, {user.id}, {}});
+         d.ChangeMembers(s, {Membership::DomainUsers, {domain.id, domain.version}, {user.id}, {}}, {});
        }},
       {role.name,
        [&](auto& d, auto s) {
-         d.ChangeMembers(s, {Membership::RoleMembers, {role.id, role.version}, {user.id}, {}});
+         d.ChangeMembers(s, {Membership::RoleMembers, {role.id, role.version}, {user.id}, {}}, {});
        }},
       {"eve",
        [&](auto& d, auto) {
@@ -107,7 +107,7 @@ TEST_F(ConflictTest, AChangeOfNothingWritesNothing) {
   change.name = " ann ";
   change.enabled = true;
   EXPECT_EQ(directory_->ChangeUser(admin_, change), user);
-  EXPECT_EQ(directory_->ChangeMembers(admin_, {Membership::UserRoles, {user.id, 1}, {}, {1, 99}}), 1);
+  EXPECT_EQ(directory_->ChangeMembers(admin_, {Membership::UserRoles, {user.id, 1}, {}, {1, 99}}, {}), 1);
   EXPECT_EQ(SqlText("SELECT count(*) FROM journal"), rows);
   change.version = 7;
   EXPECT_EQ(NumberOf([&] { directory_->ChangeUser(admin_, change); }), ErrorNumber::Conflict);

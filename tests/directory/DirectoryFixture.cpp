@@ -62,8 +62,8 @@ ObjectVersion DirectoryFixture::Now(Membership membership, ObjectId owner) {
 
 void DirectoryFixture::ChangeMember(Membership membership, ObjectId owner, std::vector<ObjectId> additions,
                                     std::vector<ObjectId> removals) {
-  directory_->ChangeMembers(admin_,
-                            {membership, Now(membership, owner), std::move(additions), std::move(removals)});
+  directory_->ChangeMembers(
+      admin_, {membership, Now(membership, owner), std::move(additions), std::move(removals)}, {});
 }
 
 void DirectoryFixture::AddMember(Membership membership, ObjectId owner, ObjectId member) {

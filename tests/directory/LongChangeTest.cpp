@@ -54,6 +54,15 @@ TEST_F(LongChangeTest, ReportsProgressAndLeavesNothingWhenCancelled) {
        [&](const Progress& p) {
          directory_->DeleteDomain(admin_, {source_.id, source_.version}, p);
        }},
+      {"take users out of the domain",
+       [&](const Progress& p) {
+         directory_->ChangeMembers(admin_,
+                                   {Membership::DomainUsers, {source_.id, source_.version}, {}, users_}, p);
+       }},
+      {"add members",
+       [&](const Progress& p) {
+         directory_->ChangeMembers(admin_, {Membership::RoleMembers, {4, 1}, users_, {}}, p);
+       }},
   };
   for (const auto& [name, run] : cases) {
     SCOPED_TRACE(name);
@@ -93,6 +102,49 @@ TEST_F(LongChangeTest, ReportsProgressAndLeavesNothingWhenCancelled) {
   EXPECT_EQ(directory_->Info().users, 1);
   EXPECT_EQ(directory_->Info().domainUsers, 0);
   EXPECT_EQ(directory_->Check(), std::vector<std::string>());
+}
+
+TEST_F(LongChangeTest, ASelectionIsAskedForInOneCall) {
+  const ObjectId gone = 99'999;
+  directory_->ChangeUser(admin_, [&] {
+    UserChange change;
+    change.id = users_[3];
+    change.version = 1;
+    change.fullName = "changed";
+    return change;
+  }());
+  struct {
+    Collection collection;
+    ObjectId scope;
+    std::vector<ObjectId> asked;
+    std::vector<std::pair<ObjectId, Version>> expected;
+  } const cases[] = {
+      {Collection::Users, 0, {users_[3], gone, users_[0]}, {{users_[3], 2}, {users_[0], 1}}},
+      {Collection::GroupMembers,
+       group_.id,
+       {users_[0], users_[1], users_[3]},
+       {{users_[1], 1}, {users_[3], 2}}},
+      {Collection::UsersWithoutGroup, group_.id, {users_[0], users_[1]}, {{users_[0], 1}}},
+      {Collection::DomainGroups,
+       source_.id,
+       {gone, group_.id},
+       {{group_.id, directory_->FindGroup(admin_, group_.id)->version}}},
+      {Collection::DomainGroups, gone, {group_.id}, {}},
+      {Collection::Domains, 0, {source_.id}, {{source_.id, source_.version}}},
+      {Collection::Users, 0, {}, {}},
+  };
+  for (const auto& [collection, scope, asked, expected] : cases) {
+    SCOPED_TRACE(static_cast<int>(collection));
+    std::vector<std::pair<ObjectId, Version>> found;
+    for (const auto& object : directory_->VersionsIn(admin_, collection, scope, asked))
+      found.emplace_back(object.id, object.version);
+    EXPECT_EQ(found, expected);
+  }
+  EXPECT_EQ(NumberOf([&] { directory_->VersionsIn(admin_, Collection::Journal, 0, {1}); }),
+            ErrorNumber::TypeMismatch);
+  const auto groups = directory_->FindGroups(admin_, {group_.id, gone});
+  ASSERT_EQ(groups.size(), 1u);
+  EXPECT_EQ(groups[0].name, "Group");
 }
 
 TEST_F(LongChangeTest, CopiesWhatIsAskedFor) {

@@ -61,7 +61,7 @@ std::vector<Operation> RightsTest::Operations() {
     return [=, this] {
       ObjectId id = owner();
       MembershipChange change{membership, Now(membership, id), {member()}, {}};
-      directory_->ChangeMembers(session_, change);
+      directory_->ChangeMembers(session_, change, {});
     };
   };
   auto domain = [this] { return domain_.id; };

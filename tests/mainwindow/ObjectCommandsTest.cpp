@@ -3,10 +3,12 @@
 #include <wx/listctrl.h>
 
 #include "backend/corvane/IdList.h"
+#include "backend/directory/DirectoryLoader.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/DirectoryTree.h"
+#include "mainwindow/objects/Questions.h"
 #include "tests/mainwindow/MainWindowTest.h"
 #include "tests/mainwindow/OtherConsole.h"
 #include "tests/support/gui/ModalDriver.h"
@@ -159,6 +161,37 @@ TEST_F(ObjectCommandsTest, SeveralRowsGoWithOneQuestionThatTellsTheirNumber) {
   EXPECT_TRUE(modal.LastMessage().Contains("2")) << modal.LastMessage();
   EXPECT_EQ(Explorer().ListCount(), 0);
   EXPECT_EQ(Explorer().TreeNodeCount(), 4);
+}
+
+TEST_F(ObjectCommandsTest, MoreThanOneCommandDeletesAreRefusedWithTheirNumbers) {
+  {
+    DirectoryLoader loader(file_);
+    for (std::int64_t number = 0; number <= kMostDeletedAtOnce; ++number) {
+      UserRecord record;
+      record.name = "many " + std::to_string(number);
+      loader.AddUser(record);
+    }
+    loader.Finish();
+  }
+  Open();
+  Select({"59300", "59303"});
+  Explorer().SetFilter("many");
+  Explorer().SelectAllListRows();
+  Settle();
+  ASSERT_EQ(Explorer().SelectedListCount(), kMostDeletedAtOnce + 1);
+  ModalDriver modal;
+  modal.ExpectMessage(61780, wxID_OK);
+  Press(WXK_DELETE);
+  EXPECT_TRUE(modal.LastMessage().Contains("50,000") && modal.LastMessage().Contains("50,001"))
+      << modal.LastMessage();
+  // One fewer may go: they are asked about.
+  User(*form_).Press(WXK_HOME, 0, "list");
+  User(*form_).Press(WXK_END, wxMOD_SHIFT, "list");
+  User(*form_).Press(WXK_UP, wxMOD_SHIFT, "list");
+  ASSERT_EQ(Explorer().SelectedListCount(), kMostDeletedAtOnce);
+  modal.ExpectMessage(61700, wxID_NO);
+  Press(WXK_DELETE);
+  EXPECT_EQ(Explorer().ListCount(), kMostDeletedAtOnce + 1);
 }
 
 TEST_F(ObjectCommandsTest, WhatAnotherConsoleHasDeletedIsToldAndNothingElseHappens) {

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "backend/directory/store/GuardRails.h"
+#include "backend/directory/store/ProgressSteps.h"
 #include "backend/directory/store/RecordReader.h"
 
 namespace mindloft {
@@ -32,7 +33,8 @@ bool MembershipStore::OwnedByUser(Membership membership) {
          membership == Membership::UserGroups;
 }
 
-Version MembershipStore::Change(const Caller& caller, const MembershipChange& change) {
+Version MembershipStore::Change(const Caller& caller, const MembershipChange& change,
+                                const Progress& progress) {
   const Container container = ContainerOf(change.membership);
   const bool ownedByUser = OwnedByUser(change.membership);
   if (!ownedByUser || container == Container::Role) RequireRight(caller, container, change.owner.id);
@@ -45,11 +47,13 @@ Version MembershipStore::Change(const Caller& caller, const MembershipChange& ch
 
   const char* memberTable = ownedByUser ? kContainerTables[static_cast<int>(container)] : "user";
   Named removed, added;
+  ProgressSteps steps(progress, static_cast<std::int64_t>(change.removals.size() + change.additions.size()));
   auto apply = [&](const std::vector<ObjectId>& ids, auto step, Named& done) {
     for (ObjectId id : ids) {
       ObjectId inside = ownedByUser ? id : owner.subject.id;
       ObjectId user = ownedByUser ? owner.subject.id : id;
       if ((this->*step)(container, inside, user)) done.emplace_back(id, NameOf(memberTable, id));
+      steps.Done(1);
     }
   };
   apply(change.removals, &MembershipStore::Remove, removed);

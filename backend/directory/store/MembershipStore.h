@@ -21,7 +21,8 @@ class MembershipStore {
 
   /// The owner's version afterwards. Only users of a domain can be in its groups: ObjectNotFound for others;
   /// a user who leaves a domain leaves its groups.
-  Version Change(const Caller& caller, const MembershipChange& change);
+  /// `progress` counts additions and removals.
+  Version Change(const Caller& caller, const MembershipChange& change, const Progress& progress);
 
  private:
   using Named = std::vector<std::pair<ObjectId, std::string>>;

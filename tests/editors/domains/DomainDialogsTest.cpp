@@ -6,7 +6,7 @@
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
-#include "editors/domains/LongChange.h"
+#include "editors/LongChange.h"
 #include "editors/domains/frmDUserAdd.h"
 #include "editors/domains/frmDUserProperty.h"
 #include "editors/domains/frmDomainInfo.h"
@@ -101,7 +101,10 @@ TEST_F(DomainDialogsTest, WhatADomainMayNotBeCalledIsRefusedByNumber) {
       modal_.ExpectMessage(51102, wxID_OK);
       user.Click("cmdOK");
       user.Type("txtName", name);
-      modal_.ExpectForm("frmErrorManager", [&](User& error) { error.Click("cmdOK"); });
+      modal_.ExpectForm("frmErrorManager", [number = number](User& error) {
+        EXPECT_TRUE(error.Title().Contains(wxString::Format("'%d'", number))) << error.Title();
+        error.Click("cmdOK");
+      });
       user.Click("cmdApply");
       EXPECT_TRUE(user.IsEnabled("cmdApply"));
       user.Click("cmdCancel");

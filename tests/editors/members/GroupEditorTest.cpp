@@ -9,7 +9,9 @@
 #include "backend/tessaline/Text.h"
 #include "controls/texts/UseTextBox.h"
 #include "core/Refresh.h"
+#include "editors/LongChange.h"
 #include "editors/members/frmDGroupProperty.h"
+#include "platform/Clock.h"
 #include "tests/editors/members/MembersFixture.h"
 #include "tests/mainwindow/OtherConsole.h"
 
@@ -178,6 +180,94 @@ TEST_F(GroupEditorTest, WhatIsTakenBackLeavesNothingPending) {
   EXPECT_EQ(Changes(), before);
 }
 
+TEST_F(GroupEditorTest, ALongChangeOfMembersCanBeCancelledAndCarriedOutAgain) {
+  constexpr int kMany = 600;
+  {
+    DirectoryLoader loader(file_);
+    const auto group = Corvane::IdFromText(Group("Readers")->Id());
+    for (int number = 0; number < kMany; ++number) {
+      UserRecord record;
+      record.name = "member " + std::to_string(number);
+      const auto user = loader.AddUser(record);
+      loader.AddDomainUser(Corvane::IdFromText(domainId_), user);
+      loader.AddGroupMember(group, user);
+    }
+    loader.Finish();
+  }
+  ModalDriver modal;
+  EXPECT_TRUE(Edit(Group("Readers"), modal, [&](User& user) {
+    user.SelectPage("sstGroup", 1);
+    user.Press('A', wxMOD_CONTROL, "list");
+    user.Click("cmdRemove");
+    platform::FakeClock clock(1'000'000);
+    clock.AdvanceAtReading(kPatience.count());
+    bool seen = false;
+    // It waits for the first moment in which the change lets the windows live.
+    user.Form().CallAfter([&] {
+      auto* progress = wxWindow::FindWindowByName("frmDeleteKDomainProgress");
+      ASSERT_TRUE(progress && progress->IsShown());
+      EXPECT_TRUE(User(*progress).Read("lblWhat").Contains("Readers"));
+      User(*progress).Click("cmdCancel");
+      seen = true;
+    });
+    user.Click("cmdOK");
+    EXPECT_TRUE(seen);
+    EXPECT_TRUE(user.IsShown("cmdOK"));
+    EXPECT_TRUE(user.IsEnabled("cmdApply"));
+    EXPECT_THAT(Listed(user), IsEmpty()) << "still pending";
+    EXPECT_EQ(Group("Readers")->Members()->Count(), kMany + 2);
+    user.Click("cmdApply");
+    EXPECT_FALSE(user.IsEnabled("cmdApply"));
+    EXPECT_EQ(wxWindow::FindWindowByName("frmDeleteKDomainProgress"), nullptr);
+    user.Click("cmdOK");
+  }));
+  EXPECT_THAT(Members(), IsEmpty());
+}
+
+TEST_F(GroupEditorTest, PickedUsersWhoBecameMembersMeanwhileAreNotAddedTwice) {
+  ModalDriver modal;
+  EXPECT_TRUE(Edit(Group("Readers"), modal, [&](User& user) {
+    user.SelectPage("sstGroup", 1);
+    modal.ExpectForm("frmListUser", [&](User& picker) {
+      Select(picker, {"\u0639\u0645\u0631", "Zo\u00eb"});
+      OtherConsole other(file_, "admin", kPassword);
+      other.Domain(domainId_)
+          ->DGroups()
+          ->Item(Group("Readers")->Id())
+          ->ChangeMembers(ToUtf8(IdOf("Zo\u00eb")), "");
+      picker.Click("cmdOK");
+    });
+    user.Click("cmdAdd");
+    EXPECT_THAT(Listed(user), ElementsAre("\u0639\u0645\u0631", "anna", "back\\slash;1", "Zo\u00eb"));
+    user.Click("cmdOK");
+  }));
+  EXPECT_EQ(Members().size(), 4u);
+}
+
+TEST_F(GroupEditorTest, DisabledAccountsAreAskedAboutBeforeTheyBecomeMembers) {
+  const auto zoe = Server().Users()->Item(ToUtf8(IdOf("Zo\u00eb")));
+  zoe->SetEnabled(false);
+  zoe->Update();
+  const std::vector<std::string> picked = {"smile \U0001F600", "Zo\u00eb"};
+  ModalDriver modal;
+  EXPECT_TRUE(Edit(Group("Readers"), modal, [&](User& user) {
+    user.SelectPage("sstGroup", 1);
+    ExpectPick(modal, picked);
+    modal.ExpectForm("frmSelectUnit", [](User& asked) { asked.Click("cmdCancel"); });
+    user.Click("cmdAdd");
+    EXPECT_FALSE(user.IsEnabled("cmdApply"));
+    ExpectPick(modal, picked);
+    modal.ExpectForm("frmSelectUnit", [&](User& asked) {
+      EXPECT_EQ(Listed(asked, "ctNotPrivilege"), picked);
+      asked.Click("cmdOK");
+    });
+    user.Click("cmdAdd");
+    EXPECT_THAT(Listed(user), ElementsAre(picked[0], "anna", "back\\slash;1"));
+    user.Click("cmdOK");
+  }));
+  EXPECT_EQ(Members().size(), 3u);
+}
+
 TEST_F(GroupEditorTest, AsksBeforeChangesAreLost) {
   ModalDriver modal;
   EXPECT_FALSE(Edit(Group("Readers"), modal, [&](User& user) {
@@ -223,7 +313,10 @@ TEST_F(GroupEditorTest, ANameThatExistsKeepsTheChanges) {
   EXPECT_FALSE(Edit(Group("Readers"), modal, [&](User& user) {
     user.Clear("txtName");
     user.Type("txtName", "ADMINISTRATORS");
-    modal.ExpectForm("frmErrorManager", [](User& error) { error.Click("cmdOK"); });
+    modal.ExpectForm("frmErrorManager", [](User& error) {
+      EXPECT_TRUE(error.Title().Contains("'60043'")) << error.Title();
+      error.Click("cmdOK");
+    });
     user.Click("cmdApply");
     EXPECT_TRUE(user.IsEnabled("cmdApply"));
     EXPECT_EQ(user.Read("txtName"), "ADMINISTRATORS");

@@ -1,4 +1,4 @@
-#include "editors/domains/LongChange.h"
+#include "editors/LongChange.h"
 
 #include <memory>
 
