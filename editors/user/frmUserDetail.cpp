@@ -128,9 +128,9 @@ void frmUserDetail::SetButtonStatus() try {
   chkEnabled->Enable(mayManage && !editingOwnAccount_);
   cmdApply->Enable(mayEdit && changed_);
   cmdResetPwd->Enable(mayEdit && changed_ && !user_->IsNew());
-  ctRole->Enable(mayManage);
-  ctDomain->Enable(mayManage);
-  ctGroup->Enable(ctDomain->IsThisEnabled());
+  ctRole->SetLocked(!mayManage);
+  ctDomain->SetLocked(!mayManage);
+  ctGroup->SetLocked(ctDomain->Locked());
   // The login name of an existing user is fixed.
   fields_->Name().SetLocked(!mayEdit || !user_->IsNew());
 } catch (...) {

@@ -259,10 +259,22 @@ TEST_F(UserDetailTest, OwnAccountAndOtherRights) {
     for (const char* box : {"txtName", "txtFName", "txtDept", "txtMail", "txtTel", "TxtDesc", "txtPwd"})
       EXPECT_TRUE(IsLocked(user, box)) << box;
     user.SelectPage("sstUser", 1);
-    EXPECT_FALSE(user.IsEnabled("ctRole"));
+    // What may not be changed can still be searched through.
+    auto& roles = user.Find<ctExplorer>("ctRole");
+    EXPECT_TRUE(user.IsEnabled("ctRole"));
+    const auto all = roles.ListCount();
+    roles.SetFilter("log");
+    EXPECT_LT(roles.ListCount(), all);
+    roles.SetFilter({});
     user.SelectPage("sstUser", 2);
-    EXPECT_FALSE(user.IsEnabled("ctDomain"));
-    EXPECT_FALSE(user.IsEnabled("ctGroup"));
+    user.SelectPage("sstUser", 1);
+    for (std::int64_t row = 0; row < all; ++row) {
+      roles.SelectListRow(row);
+      roles.ClickCheck(row);
+    }
+    for (const char* list : {"ctRole", "ctDomain", "ctGroup"})
+      EXPECT_TRUE(user.Find<ctExplorer>(list).Locked()) << list;
+    EXPECT_FALSE(user.IsEnabled("cmdApply"));
     user.Click("cmdOK");
   });
   Edit(Named("bob"), [](User& user) {
