@@ -1,4 +1,5 @@
-// Measures how long the property sheets take to open, from the command to the last painted pixel.
+// Measures how long the property sheets take to open, and the changes of many objects to be done, from the
+// command to the last painted pixel. Changes the directory.
 //
 //   editors-bench FOLDER
 //
@@ -7,10 +8,8 @@
 
 #include <wx/app.h>
 #include <wx/bookctrl.h>
-#include <wx/button.h>
 #include <wx/frame.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <functional>
@@ -20,15 +19,15 @@
 
 #include "backend/tessaline/Services.h"
 #include "bench/console/PaintClock.h"
-#include "controls/explorer/ctExplorer.h"
-#include "editors/members/frmDGroupProperty.h"
+#include "bench/editors/DeletionBench.h"
+#include "bench/editors/GroupBench.h"
 #include "editors/user/frmUserDetail.h"
 
 namespace mindloft::bench {
 namespace {
 
 constexpr int kRuns = 11;
-constexpr std::int64_t kMembers = 100'000;
+constexpr int kDeletions = 5;
 
 std::string PasswordIn(const std::string& folder) {
   std::ifstream log(folder + "/sample.log");
@@ -39,11 +38,6 @@ std::string PasswordIn(const std::string& folder) {
   throw std::runtime_error("no password in " + folder + "/sample.log");
 }
 
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
 class EditorsBench : public wxApp {
  public:
   bool OnInit() override {
@@ -52,7 +46,8 @@ class EditorsBench : public wxApp {
       return false;
     }
     folder_ = argv[1].utf8_string();
-    (new wxFrame(nullptr, wxID_ANY, "bench"))->Show();
+    frame_ = new wxFrame(nullptr, wxID_ANY, "bench");
+    frame_->Show();
     CallAfter([this] { Run(); });
     return true;
   }
@@ -79,16 +74,19 @@ class EditorsBench : public wxApp {
     std::vector<double> ignored, everywhere;
     const auto user = UserOfAllDomains();
     for (int run = 0; run < kRuns; ++run) OpenOnce(user, ignored, ignored, everywhere);
-    Line("user editor open", Median(open), 150);
-    Line("its roles", Median(roles), 150);
-    Line("its domains and groups", Median(domains), 150);
-    Line("the same of a user of all domains", Median(everywhere), 150);
-    MeasureGroup();
-    GetTopWindow()->Close(true);
+    figures_.Line("user editor open", Median(open), 150);
+    figures_.Line("its roles", Median(roles), 150);
+    figures_.Line("its domains and groups", Median(domains), 150);
+    figures_.Line("the same of a user of all domains", Median(everywhere), 150);
+    MeasureGroup(*this, kRuns, figures_);
+    // Last: afterwards there are fewer users.
+    MeasureDeletion(kDeletions, figures_);
+    if (!figures_.AllHold()) status_ = 1;
+    frame_->Close(true);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     status_ = 1;
-    GetTopWindow()->Close(true);
+    frame_->Close(true);
   }
 
   static std::shared_ptr<Corvane::User> UserOfAllDomains() {
@@ -117,65 +115,9 @@ class EditorsBench : public wxApp {
     form.OpenWindow(user);
   }
 
-  void MeasureGroup() {
-    const auto group = GroupOfMany();
-    std::printf("a group of %lld members\n", static_cast<long long>(group->Members()->Count()));
-    std::vector<double> open, members, apply;
-    for (int run = 0; run < kRuns; ++run) OpenGroupOnce(group, open, members, apply);
-    Line("group editor open", Median(open), 150);
-    Line("its members", Median(members), 150);
-    Line("one taken out and applied", Median(apply), 50);
-  }
-
-  static std::shared_ptr<Corvane::DGroup> GroupOfMany() {
-    const auto server = GetApplication()->Server();
-    const auto domain = server->KDomains()->Add();
-    domain->SetName("of many users " + std::to_string(server->KDomains()->Count()));
-    domain->Update();
-    std::string ids;
-    for (const auto& user : server->Users()->View().Page(0, kMembers)) ids += Corvane::IdText(user.id) + ";";
-    domain->ChangeUsers(ids, {});
-    const auto group = domain->DGroups()->Add();
-    group->SetName("of many members");
-    group->Update();
-    group->ChangeMembers(ids, {});
-    return group;
-  }
-
-  static void Press(const wxWindow& form, const char* name) {
-    auto* button = dynamic_cast<wxButton*>(wxWindow::FindWindowByName(name, &form));
-    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
-    event.SetEventObject(button);
-    button->HandleWindowEvent(event);
-  }
-
-  void OpenGroupOnce(const std::shared_ptr<Corvane::DGroup>& group, std::vector<double>& open,
-                     std::vector<double>& members, std::vector<double>& apply) {
-    const double begin = NowMs();
-    frmDGroupProperty form(GetTopWindow());
-    CallAfter([&] {
-      PaintClock clock(form);
-      clock.Settle();
-      open.push_back(clock.LastPaint() - begin);
-      auto* tabs = dynamic_cast<wxBookCtrlBase*>(wxWindow::FindWindowByName("sstGroup", &form));
-      members.push_back(clock.Measure([tabs] { tabs->SetSelection(1); }));
-      dynamic_cast<ctExplorer*>(wxWindow::FindWindowByName("ctUser", &form))->SelectListRow(0);
-      apply.push_back(clock.Measure([&form] {
-        Press(form, "cmdRemove");
-        Press(form, "cmdApply");
-      }));
-      form.Close();
-    });
-    form.OpenWindow(group);
-  }
-
-  void Line(const char* what, double value, double limit) {
-    const bool holds = value <= limit;
-    if (!holds) status_ = 1;
-    std::printf("%-40s %8.2f ms (at most %g) %s\n", what, value, limit, holds ? "ok" : "MISSED");
-  }
-
   std::string folder_;
+  wxFrame* frame_ = nullptr;
+  Figures figures_;
   int status_ = 0;
 };
 
