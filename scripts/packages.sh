@@ -9,7 +9,8 @@ screen="xvfb openbox x11-utils xdotool imagemagick fonts-dejavu-core fonts-droid
 # The keyring is for the tests of stored passwords; the print server has a printer that writes files.
 test="$build $screen procps dbus-daemon gnome-keyring cups cups-client printer-driver-cups-pdf poppler-utils"
 run="$build $screen"
-windows="$test g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libgcrypt-mingw-w64-dev wine wine64 tcl icu-devtools dpkg-dev
+windows="$test g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libgcrypt-mingw-w64-dev wine wine64 fonts-wqy-microhei tcl
+  icu-devtools dpkg-dev
   debian-archive-keyring ca-certificates wixl"
 lint="$build clang-format clang-tidy-16 git"
 # The oldest clang that reads the sources.
