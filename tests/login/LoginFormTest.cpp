@@ -27,54 +27,44 @@ using testing::Not;
 constexpr char kPassword[] = "correct horse battery";
 
 class LoginFormTest : public PrivateServices {
-protected:
+ protected:
   void SetUp() override {
     PrivateServices::SetUp();
-    SetApplication(std::make_unique<Corvane::Application>(
-        Corvane::EmbeddedDirectoryProvider(file_)));
+    SetApplication(std::make_unique<Corvane::Application>(Corvane::EmbeddedDirectoryProvider(file_)));
   }
   void TearDown() override {
     SetApplication(nullptr);
     PrivateServices::TearDown();
   }
 
-  void MakeDirectory() {
-    Corvane::CreateLocalDirectory(file_, "Root", kPassword);
-  }
+  void MakeDirectory() { Corvane::CreateLocalDirectory(file_, "Root", kPassword); }
 
-  /// Shows the dialog to the users in turn; it has to be made again for each
-  /// but the first.
+  /// Shows the dialog to the users in turn; it has to be made again for each but the first.
   bool Login(std::vector<ModalDriver::Script> scripts) {
     ModalDriver modal;
-    for (auto &script : scripts)
-      modal.ExpectForm("frmLogin", std::move(script));
+    for (auto& script : scripts) modal.ExpectForm("frmLogin", std::move(script));
     return Tessaline::LoginDialog(file_).Login("Console");
   }
 
-  static void Enter(User &user, const wxString &name,
-                    const wxString &password) {
+  static void Enter(User& user, const wxString& name, const wxString& password) {
     user.Clear("txtName");
     user.Type("txtName", name);
     user.Clear("txtPassword");
     user.Type("txtPassword", password);
   }
 
-  const std::filesystem::path file_ =
-      folder_ / "deep" / "er" / "mine.directory";
+  const std::filesystem::path file_ = folder_ / "deep" / "er" / "mine.directory";
 };
 
 TEST_F(LoginFormTest, TheCaretIsInTheNameTabLeadsToThePasswordAndEnterLogsIn) {
   MakeDirectory();
-  EXPECT_TRUE(Login({[&](User &user) {
-    WaitFor([&] { return user.Find("txtName").HasFocus(); },
-            "the caret in the name");
+  EXPECT_TRUE(Login({[&](User& user) {
+    WaitFor([&] { return user.Find("txtName").HasFocus(); }, "the caret in the name");
     EXPECT_THAT(ToUtf8(user.Title()), HasSubstr("Console"));
-    EXPECT_THAT(ToUtf8(user.Read("txtWhere")),
-                HasSubstr(ToUtf8(ToWx(file_.filename().string()))));
+    EXPECT_THAT(ToUtf8(user.Read("txtWhere")), HasSubstr(ToUtf8(ToWx(file_.filename().string()))));
     user.Type("txtName", " rOOT ");
     user.Find("txtName").Navigate();
-    WaitFor([&] { return user.Find("txtPassword").HasFocus(); },
-            "the caret in the password");
+    WaitFor([&] { return user.Find("txtPassword").HasFocus(); }, "the caret in the password");
     user.Type("txtPassword", kPassword);
     user.Press(WXK_RETURN);
   }}));
@@ -84,16 +74,15 @@ TEST_F(LoginFormTest, TheCaretIsInTheNameTabLeadsToThePasswordAndEnterLogsIn) {
 
 TEST_F(LoginFormTest, AFailureDoesNotTellWhetherTheNameExistsAndEscCancels) {
   MakeDirectory();
-  EXPECT_FALSE(Login({[](User &user) {
+  EXPECT_FALSE(Login({[](User& user) {
     std::vector<wxString> told;
-    for (const char *name : {"Root", "nobody"}) {
+    for (const char* name : {"Root", "nobody"}) {
       Enter(user, name, "wrong password");
       user.Click("cmdOK");
       told.push_back(user.Read("lblMessage"));
       EXPECT_TRUE(user.IsShown("lblMessage"));
       EXPECT_EQ(user.Read("txtPassword"), "");
-      WaitFor([&] { return user.Find("txtPassword").HasFocus(); },
-              "the caret in the password");
+      WaitFor([&] { return user.Find("txtPassword").HasFocus(); }, "the caret in the password");
     }
     EXPECT_EQ(told[0], told[1]);
     user.Clear("txtName");
@@ -106,11 +95,10 @@ TEST_F(LoginFormTest, AFailureDoesNotTellWhetherTheNameExistsAndEscCancels) {
   EXPECT_THAT(LoggedText(), Not(HasSubstr("wrong password")));
 }
 
-TEST_F(LoginFormTest,
-       RepeatedFailuresAreSlowedByACountdownThatKeepsThePassword) {
+TEST_F(LoginFormTest, RepeatedFailuresAreSlowedByACountdownThatKeepsThePassword) {
   MakeDirectory();
   platform::FakeClock clock(1'800'000'000'000);
-  EXPECT_TRUE(Login({[&](User &user) {
+  EXPECT_TRUE(Login({[&](User& user) {
     for (int attempt = 0; user.IsEnabled("cmdOK") && attempt < 20; ++attempt) {
       Enter(user, "Root", "wrong password");
       user.Click("cmdOK");
@@ -134,7 +122,7 @@ TEST_F(LoginFormTest,
 
 TEST_F(LoginFormTest, AMissingDirectoryIsOfferedToBeCreated) {
   ModalDriver modal;
-  modal.ExpectForm("frmLogin", [](User &user) {
+  modal.ExpectForm("frmLogin", [](User& user) {
     EXPECT_FALSE(user.IsEnabled("cmdOK"));
     EXPECT_TRUE(user.IsShown("lblMessage"));
     user.Type("txtServer", "elsewhere");
@@ -145,14 +133,13 @@ TEST_F(LoginFormTest, AMissingDirectoryIsOfferedToBeCreated) {
     EXPECT_TRUE(user.IsShown("cmdCreate"));
     user.Click("cmdCreate");
   });
-  modal.ExpectForm("frmCreateDirectory", [](User &user) {
-    const auto hints = [&](const char *name, const wxString &text, int number) {
+  modal.ExpectForm("frmCreateDirectory", [](User& user) {
+    const auto hints = [&](const char* name, const wxString& text, int number) {
       user.Clear(name);
       user.Type(name, text);
       EXPECT_EQ(user.IsEnabled("cmdOK"), number == 61224) << name;
-      EXPECT_EQ(
-          user.Read("lblHint").BeforeFirst('('),
-          GetResource().GetFormatString(number, {"12", ""}).BeforeFirst('('));
+      EXPECT_EQ(user.Read("lblHint").BeforeFirst('('),
+                GetResource().GetFormatString(number, {"12", ""}).BeforeFirst('('));
     };
     hints("txtName", "  ", 61221);
     hints("txtName", "Ana", 61222);
@@ -167,25 +154,19 @@ TEST_F(LoginFormTest, AMissingDirectoryIsOfferedToBeCreated) {
   EXPECT_THAT(LoggedText(), Not(HasSubstr("twelve")));
 }
 
-TEST_F(LoginFormTest,
-       WhatIsWrongWithTheDirectoryOrTheServerIsToldAndCanBeMended) {
+TEST_F(LoginFormTest, WhatIsWrongWithTheDirectoryOrTheServerIsToldAndCanBeMended) {
   std::filesystem::create_directories(file_.parent_path());
-  const auto write = [&](std::string_view bytes) {
-    std::ofstream(file_, std::ios::binary) << bytes;
-  };
-  write("this is no directory, and longer than a header would have to be: " +
-        std::string(200, 'x'));
-  EXPECT_TRUE(Login({[&](User &user) {
-    const auto fails = [&](const char *server, int number, const char *part) {
+  const auto write = [&](std::string_view bytes) { std::ofstream(file_, std::ios::binary) << bytes; };
+  write("this is no directory, and longer than a header would have to be: " + std::string(200, 'x'));
+  EXPECT_TRUE(Login({[&](User& user) {
+    const auto fails = [&](const char* server, int number, const char* part) {
       user.Clear("txtServer");
       user.Type("txtServer", server);
       Enter(user, "Root", kPassword);
       user.Click("cmdOK");
       wxString told = user.Read("lblMessage");
       told.Replace("\n", " ");
-      EXPECT_EQ(told.BeforeFirst(' '),
-                GetResource().GetString(number).BeforeFirst(' '))
-          << server;
+      EXPECT_EQ(told.BeforeFirst(' '), GetResource().GetString(number).BeforeFirst(' ')) << server;
       EXPECT_THAT(ToUtf8(told), HasSubstr(part));
       EXPECT_EQ(user.Read("txtPassword"), kPassword);
     };
@@ -211,10 +192,9 @@ TEST_F(LoginFormTest, EveryWayInWhichAFileCannotBeUsedHasItsText) {
     int number;
   };
   // Half a file, the schema of a later version, another program's file.
-  const Case cases[] = {
-      {good.substr(0, good.size() / 2), 60004}, {newer, 60005}, {"", 60003}};
-  EXPECT_TRUE(Login({[&](User &user) {
-    const auto write = [&](const std::string &bytes) {
+  const Case cases[] = {{good.substr(0, good.size() / 2), 60004}, {newer, 60005}, {"", 60003}};
+  EXPECT_TRUE(Login({[&](User& user) {
+    const auto write = [&](const std::string& bytes) {
       std::ofstream(file_, std::ios::binary | std::ios::trunc) << bytes;
     };
     const auto tells = [&](int number) {
@@ -224,24 +204,20 @@ TEST_F(LoginFormTest, EveryWayInWhichAFileCannotBeUsedHasItsText) {
       told.Replace("\n", " ");
       EXPECT_EQ(told, GetResource().GetString(number));
     };
-    for (const auto &one : cases) {
+    for (const auto& one : cases) {
       write(one.content);
       tells(one.number);
     }
     write(good);
     using std::filesystem::perms;
-    for (const auto &folder :
-         {folder_.Path(), file_.parent_path().parent_path(),
-          file_.parent_path()})
+    for (const auto& folder : {folder_.Path(), file_.parent_path().parent_path(), file_.parent_path()})
       std::filesystem::permissions(folder, perms::all);
-    const auto readable =
-        perms::owner_read | perms::group_read | perms::others_read;
+    const auto readable = perms::owner_read | perms::group_read | perms::others_read;
     std::filesystem::permissions(file_, readable);
     {
       const OrdinaryUser ordinary;
       // Not every system holds every user to it.
-      if (!std::ofstream(file_, std::ios::app))
-        tells(60006);
+      if (!std::ofstream(file_, std::ios::app)) tells(60006);
     }
     std::filesystem::permissions(file_, readable | perms::owner_write);
     user.Click("cmdOK");
@@ -258,9 +234,9 @@ TEST_F(LoginFormTest, ADisabledAccountIsToldNoMoreThanAWrongPassword) {
   directory->CreateUser(session, record, kPassword);
   directory->Logout(session);
   directory.reset();
-  EXPECT_FALSE(Login({[](User &user) {
+  EXPECT_FALSE(Login({[](User& user) {
     std::vector<wxString> told;
-    for (const char *password : {kPassword, "wrong password"}) {
+    for (const char* password : {kPassword, "wrong password"}) {
       Enter(user, "Gone", password);
       user.Click("cmdOK");
       told.push_back(user.Read("lblMessage"));
@@ -273,12 +249,12 @@ TEST_F(LoginFormTest, ADisabledAccountIsToldNoMoreThanAWrongPassword) {
 
 TEST_F(LoginFormTest, CapsLockIsToldWhileItIsOn) {
   MakeDirectory();
-  EXPECT_FALSE(Login({[](User &user) {
+  EXPECT_FALSE(Login({[](User& user) {
     const auto press = [&] {
       wxKeyEvent key(wxEVT_KEY_UP);
       user.Find("txtPassword").HandleWindowEvent(key);
     };
-    const auto step = [&](const char *from, const char *to) {
+    const auto step = [&](const char* from, const char* to) {
       return user.Find(to).GetPosition().y - user.Find(from).GetPosition().y;
     };
     const auto leavesNoGap = [&] {
@@ -299,10 +275,9 @@ TEST_F(LoginFormTest, CapsLockIsToldWhileItIsOn) {
   }}));
 }
 
-TEST_F(LoginFormTest,
-       FitsInEveryLanguageAndSoDoesTheFormThatCreatesADirectory) {
-  const auto look = [](User &user) {
-    const auto &form = dynamic_cast<const wxTopLevelWindow &>(user.Form());
+TEST_F(LoginFormTest, FitsInEveryLanguageAndSoDoesTheFormThatCreatesADirectory) {
+  const auto look = [](User& user) {
+    const auto& form = dynamic_cast<const wxTopLevelWindow&>(user.Form());
     ExpectFits(form);
     ExpectTextsOfLanguage(form, 5);
   };
@@ -310,9 +285,9 @@ TEST_F(LoginFormTest,
     SCOPED_TRACE(code);
     ASSERT_TRUE(GetResource().SwitchLanguage(code));
     ModalDriver modal;
-    modal.ExpectForm("frmLogin", [&](User &user) {
+    modal.ExpectForm("frmLogin", [&](User& user) {
       look(user);
-      modal.ExpectForm("frmCreateDirectory", [&](User &creating) {
+      modal.ExpectForm("frmCreateDirectory", [&](User& creating) {
         look(creating);
         creating.Type("txtName", "Ana");
         look(creating);
@@ -326,58 +301,51 @@ TEST_F(LoginFormTest,
       look(user);
       user.Press(WXK_ESCAPE);
     });
-    EXPECT_FALSE(
-        Tessaline::LoginDialog(file_).Login(GetResource().GetString(61200)));
+    EXPECT_FALSE(Tessaline::LoginDialog(file_).Login(GetResource().GetString(61200)));
   }
 }
 
 TEST_F(LoginFormTest, TheTitleFollowsTheLanguage) {
   MakeDirectory();
   ModalDriver modal;
-  modal.ExpectForm("frmLogin", [](User &user) {
+  modal.ExpectForm("frmLogin", [](User& user) {
     user.Choose("cboLanguage", GetResource().LanguageName(1031));
-    EXPECT_EQ(user.Title(),
-              GetResource().GetString(61200) + L" \u2013 Anmelden");
-    ExpectTextsOfLanguage(dynamic_cast<const wxTopLevelWindow &>(user.Form()),
-                          8);
+    EXPECT_EQ(user.Title(), GetResource().GetString(61200) + L" \u2013 Anmelden");
+    ExpectTextsOfLanguage(dynamic_cast<const wxTopLevelWindow&>(user.Form()), 8);
     user.Press(WXK_ESCAPE);
   });
-  EXPECT_FALSE(
-      Tessaline::LoginDialog(file_).Login(GetResource().GetString(61200)));
+  EXPECT_FALSE(Tessaline::LoginDialog(file_).Login(GetResource().GetString(61200)));
 }
 
 TEST_F(LoginFormTest, TheLanguageChosenIsKeptOnlyWhenTheLoginSucceeds) {
   MakeDirectory();
-  const auto chooseArabic = [](User &user) {
+  const auto chooseArabic = [](User& user) {
     user.Type("txtName", "Root");
     user.Choose("cboLanguage", GetResource().LanguageName(1025));
   };
-  EXPECT_FALSE(Login({chooseArabic, [](User &user) {
-                        EXPECT_EQ(user.Form().GetLayoutDirection(),
-                                  wxLayout_RightToLeft);
+  EXPECT_FALSE(Login({chooseArabic, [](User& user) {
+                        EXPECT_EQ(user.Form().GetLayoutDirection(), wxLayout_RightToLeft);
                         EXPECT_EQ(user.Read("txtName"), "Root");
                         user.Press(WXK_ESCAPE);
                       }}));
   EXPECT_EQ(GetResource().CurrentLanguage(), 1033);
-  EXPECT_TRUE(Login({chooseArabic, [](User &user) {
+  EXPECT_TRUE(Login({chooseArabic, [](User& user) {
                        Enter(user, "Root", kPassword);
                        user.Click("cmdOK");
                      }}));
-  EXPECT_EQ(GetResource().GetSetting(Tessaline::Setting::CurrentLanguage),
-            "1025");
+  EXPECT_EQ(GetResource().GetSetting(Tessaline::Setting::CurrentLanguage), "1025");
 }
 
 TEST_F(LoginFormTest, TheConnectionSettingsCanBeChangedAndTheNewTargetIsShown) {
-  EXPECT_FALSE(Login({[](User &user) {
+  EXPECT_FALSE(Login({[](User& user) {
     EXPECT_FALSE(user.IsShown("cmdSettings")) << "nobody offers the form";
     user.Press(WXK_ESCAPE);
   }}));
   MakeDirectory();
-  GetResource().SetSetting(Tessaline::Setting::ConfigurationServer,
-                           "wrong-server");
-  const wxWindow *parent = nullptr;
+  GetResource().SetSetting(Tessaline::Setting::ConfigurationServer, "wrong-server");
+  const wxWindow* parent = nullptr;
   std::function<void()> change = [] {};
-  SetSettingsForm([&](wxWindow *over) {
+  SetSettingsForm([&](wxWindow* over) {
     parent = over;
     change();
   });
@@ -386,86 +354,31 @@ TEST_F(LoginFormTest, TheConnectionSettingsCanBeChangedAndTheNewTargetIsShown) {
     GetResource().KeepLanguage();
     GetRefresh()->NotifyLanguage();
   };
-  EXPECT_TRUE(Login(
-      {[&](User &user) {
-         Enter(user, "Root", kPassword);
-         user.Click("cmdOK");
-         EXPECT_TRUE(user.IsShown("lblMessage"))
-             << "a server that is not there";
-         user.Clear("txtServer");
-         user.Type("txtServer", "typed");
-         user.Click("cmdSettings");
-         EXPECT_EQ(parent, &user.Form());
-         EXPECT_EQ(user.Read("txtServer"), "typed")
-             << "the settings are as they were";
-         change = [&] {
-           GetResource().SetSetting(Tessaline::Setting::ConfigurationServer,
-                                    "(local)");
-           speakArabic();
-         };
-         user.Click("cmdSettings");
-       },
-       [&](User &user) {
-         EXPECT_EQ(user.Form().GetLayoutDirection(), wxLayout_RightToLeft);
-         EXPECT_EQ(user.Read("txtServer"), "(local)");
-         EXPECT_THAT(ToUtf8(user.Read("txtWhere")),
-                     HasSubstr("mine.directory"));
-         EXPECT_EQ(user.Read("cboLanguage"), GetResource().LanguageName(1025));
-         Enter(user, "Root", kPassword);
-         user.Click("cmdOK");
-       }}));
+  EXPECT_TRUE(Login({[&](User& user) {
+                       Enter(user, "Root", kPassword);
+                       user.Click("cmdOK");
+                       EXPECT_TRUE(user.IsShown("lblMessage")) << "a server that is not there";
+                       user.Clear("txtServer");
+                       user.Type("txtServer", "typed");
+                       user.Click("cmdSettings");
+                       EXPECT_EQ(parent, &user.Form());
+                       EXPECT_EQ(user.Read("txtServer"), "typed") << "the settings are as they were";
+                       change = [&] {
+                         GetResource().SetSetting(Tessaline::Setting::ConfigurationServer, "(local)");
+                         speakArabic();
+                       };
+                       user.Click("cmdSettings");
+                     },
+                     [&](User& user) {
+                       EXPECT_EQ(user.Form().GetLayoutDirection(), wxLayout_RightToLeft);
+                       EXPECT_EQ(user.Read("txtServer"), "(local)");
+                       EXPECT_THAT(ToUtf8(user.Read("txtWhere")), HasSubstr("mine.directory"));
+                       EXPECT_EQ(user.Read("cboLanguage"), GetResource().LanguageName(1025));
+                       Enter(user, "Root", kPassword);
+                       user.Click("cmdOK");
+                     }}));
   SetSettingsForm({});
 }
 
-TEST_F(LoginFormTest, TheConnectionSettingsCanBeChangedAndTheNewTargetIsShown) {
-  EXPECT_FALSE(Login({[](User &user) {
-    EXPECT_FALSE(user.IsShown("cmdSettings")) << "nobody offers the form";
-    user.Press(WXK_ESCAPE);
-  }}));
-  MakeDirectory();
-  GetResource().SetSetting(Tessaline::Setting::ConfigurationServer,
-                           "wrong-server");
-  const wxWindow *parent = nullptr;
-  std::function<void()> change = [] {};
-  SetSettingsForm([&](wxWindow *over) {
-    parent = over;
-    change();
-  });
-  const auto speakArabic = [] {
-    GetResource().SwitchLanguage(1025);
-    GetResource().KeepLanguage();
-    GetRefresh()->NotifyLanguage();
-  };
-  EXPECT_TRUE(Login(
-      {[&](User &user) {
-         Enter(user, "Root", kPassword);
-         user.Click("cmdOK");
-         EXPECT_TRUE(user.IsShown("lblMessage"))
-             << "a server that is not there";
-         user.Clear("txtServer");
-         user.Type("txtServer", "typed");
-         user.Click("cmdSettings");
-         EXPECT_EQ(parent, &user.Form());
-         EXPECT_EQ(user.Read("txtServer"), "typed")
-             << "the settings are as they were";
-         change = [&] {
-           GetResource().SetSetting(Tessaline::Setting::ConfigurationServer,
-                                    "(local)");
-           speakArabic();
-         };
-         user.Click("cmdSettings");
-       },
-       [&](User &user) {
-         EXPECT_EQ(user.Form().GetLayoutDirection(), wxLayout_RightToLeft);
-         EXPECT_EQ(user.Read("txtServer"), "(local)");
-         EXPECT_THAT(ToUtf8(user.Read("txtWhere")),
-                     HasSubstr("mine.directory"));
-         EXPECT_EQ(user.Read("cboLanguage"), GetResource().LanguageName(1025));
-         Enter(user, "Root", kPassword);
-         user.Click("cmdOK");
-       }}));
-  SetSettingsForm({});
-}
-
-} // namespace
-} // namespace mindloft::test
+}  // namespace
+}  // namespace mindloft::test
