@@ -73,7 +73,8 @@ TEST_F(WorkingFolderTest, HelpOpensTheLanguagesFileOrSaysWhatIsMissing) {
     EXPECT_THAT(opened.back(), testing::EndsWith(std::to_string(language) + ".html"));
     EXPECT_TRUE(std::filesystem::exists(platform::PathFromUtf8(opened.back())));
   }
-  EXPECT_EQ(opened.size(), 6u);
+  const auto languages = GetResource().Languages().size();
+  EXPECT_EQ(opened.size(), languages);
   works = false;
   modal.ExpectMessage(61246, wxID_OK);
   ShowHelp();
@@ -88,7 +89,7 @@ TEST_F(WorkingFolderTest, HelpOpensTheLanguagesFileOrSaysWhatIsMissing) {
   ResetServices({registry_, folder_ / "log", folder_ / "languages"});
   modal.ExpectMessage(61245, wxID_OK);
   ShowHelp();
-  EXPECT_EQ(opened.size(), 4u);
+  EXPECT_EQ(opened.size(), languages + 1) << "the failed attempt only";
 }
 
 }  // namespace
