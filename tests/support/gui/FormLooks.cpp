@@ -59,10 +59,12 @@ const wxWindow* Outside(const wxWindow& window) {
   return nullptr;
 }
 
-/// The window manager may grant the size later, and the pages take theirs from the form.
+/// The window manager may grant the size later, and the pages take theirs from the form. How large a frame is
+/// lies with its user.
 void WaitForRoom(const wxTopLevelWindow& form) {
+  const bool isDialog = IsOneOf<wxDialog>(form);
   const auto fits = [&] {
-    const wxSize needed = form.GetSizer() ? form.GetSizer()->GetMinSize() : wxSize();
+    const wxSize needed = isDialog && form.GetSizer() ? form.GetSizer()->GetMinSize() : wxSize();
     return form.GetClientSize().x >= needed.x && form.GetClientSize().y >= needed.y && !Outside(form);
   };
   try {
