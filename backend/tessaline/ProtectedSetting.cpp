@@ -12,12 +12,9 @@ constexpr auto kRoot = platform::RegistryRoot::CurrentUser;
 }  // namespace
 
 ProtectedSetting::ProtectedSetting(std::shared_ptr<Registry> registry,
-                                   std::shared_ptr<platform::SecretStore> secrets, wxString keyPath,
-                                   wxString name)
-    : registry_(std::move(registry)),
-      secrets_(std::move(secrets)),
-      keyPath_(std::move(keyPath)),
-      name_(std::move(name)) {}
+                                   std::shared_ptr<platform::SecretStore> secrets, const wxString& keyPath,
+                                   const wxString& name)
+    : registry_(std::move(registry)), secrets_(std::move(secrets)), keyPath_(keyPath), name_(name) {}
 
 platform::SecretStore& ProtectedSetting::Secrets() const {
   if (!secrets_) secrets_ = platform::SystemSecretStore();

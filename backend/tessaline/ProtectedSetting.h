@@ -19,7 +19,7 @@ class ProtectedSetting {
  public:
   /// `secrets` empty: the system's.
   ProtectedSetting(std::shared_ptr<Registry> registry, std::shared_ptr<platform::SecretStore> secrets,
-                   wxString keyPath, wxString name);
+                   const wxString& keyPath, const wxString& name);
 
   /// Empty when there is none, or the secret store does not give it back.
   wxString Read();

@@ -62,7 +62,7 @@ std::optional<double> ucMaskedNumber::Read(const wxString& text) const {
   return number;
 }
 
-wxString ucMaskedNumber::Show(double number) const {
+wxString ucMaskedNumber::ShownText(double number) const {
   return format_.Format(number / unitsPerShown_);
 }
 
@@ -76,7 +76,7 @@ std::int32_t ucMaskedNumber::Value() const try {
 }
 
 void ucMaskedNumber::SetValue(std::int32_t value) {
-  SetText(Show(value));
+  SetText(ShownText(value));
   spin_.SetValue(value);
 }
 
@@ -88,7 +88,7 @@ void ucMaskedNumber::SelectAll() {
 wxString ucMaskedNumber::Clamped(double number) const {
   double clamped = number < MinValue() ? MinValue() : number;
   if (number > MaxValue()) clamped = MaxValue();
-  return Show(clamped);
+  return ShownText(clamped);
 }
 
 void ucMaskedNumber::Rewrite(const wxString& text) {
@@ -141,17 +141,17 @@ void ucMaskedNumber::UpDown_Change() {
 
 void ucMaskedNumber::UpDown_UpClick() {
   if (spin_.Value() < MaxValue())
-    SetText(Show(Number() + increment_));
+    SetText(ShownText(Number() + increment_));
   else if (spin_.Value() == MaxValue())
-    SetText(Show(MaxValue()));
+    SetText(ShownText(MaxValue()));
   AfterClick();
 }
 
 void ucMaskedNumber::UpDown_DownClick() {
   if (spin_.Value() > MinValue())
-    SetText(Show(Number() - increment_));
+    SetText(ShownText(Number() - increment_));
   else if (spin_.Value() == MinValue())
-    SetText(Show(MinValue()));
+    SetText(ShownText(MinValue()));
   AfterClick();
 }
 
@@ -206,7 +206,7 @@ void ucMaskedNumber::MaskEdBox_Validate() {
   const wxString clamped = Clamped(Number());
   if (clamped != Text()) Rewrite(clamped);
   spin_.SetValue(WholePart(Number()));
-  const wxString formatted = Show(Number());
+  const wxString formatted = ShownText(Number());
   if (formatted != Text()) Rewrite(formatted);
   Box().SetInsertionPoint(std::min(caret, Box().GetLastPosition()));
   validating_ = false;

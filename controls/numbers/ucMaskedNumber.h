@@ -88,7 +88,7 @@ class ucMaskedNumber : public SpunBox, public BagControl<ucMaskedNumber> {
   wxString Clamped(double number) const;
   double Number() const;
   std::optional<double> Read(const wxString& text) const;
-  wxString Show(double number) const;
+  wxString ShownText(double number) const;
 
   SpinValue spin_;
   NumberPicture format_;

@@ -162,7 +162,7 @@ int ButtonBar::Arrange(int width) {
   return top + height + gap;
 }
 
-void ButtonBar::Update(const RichTextControl& control) {
+void ButtonBar::ShowState(const RichTextControl& control) {
   RichEditor& editor = control.Editor();
   const bool enabled = control.GetEnable() && !control.Locked();
   for (wxWindow* choice :

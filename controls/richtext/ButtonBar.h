@@ -21,7 +21,7 @@ class ButtonBar : public wxPanel {
   /// Places the groups for a width in pixels and returns the height that they need.
   int Arrange(int width);
   /// Shows what holds at the caret.
-  void Update(const RichTextControl& control);
+  void ShowState(const RichTextControl& control);
   /// Takes all texts anew in the current language.
   void LoadTexts();
 

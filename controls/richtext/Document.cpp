@@ -75,7 +75,7 @@ int Document::LoadHtml(std::string_view html) try {
 
 void Document::Show(const std::string& xml) {
   RegisterXml();
-  editor_->Replace([&] {
+  editor_->ReplaceContent([&] {
     wxMemoryInputStream stream(xml.data(), xml.size());
     wxRichTextBuffer& buffer = editor_->GetBuffer();
     editor_->UseBaseStyle();

@@ -17,7 +17,7 @@ long CaretPlace(RichEditor& editor) {
 }
 
 ParagraphPlace PlaceOf(const wxRichTextParagraph& paragraph) {
-  const wxRichTextRange range = paragraph.GetRange();
+  const wxRichTextRange& range = paragraph.GetRange();
   return {wxRichTextRange(range.GetStart(), range.GetEnd() + 1), paragraph.GetCombinedAttributes()};
 }
 

@@ -65,7 +65,7 @@ void RichEditor::LeaveCells() {
   SetFocusObject(&GetBuffer(), false);
 }
 
-void RichEditor::Replace(const std::function<void()>& load) {
+void RichEditor::ReplaceContent(const std::function<void()>& load) {
   ++replacing_;
   Freeze();
   LeaveCells();

@@ -22,7 +22,7 @@ class RichEditor : public wxRichTextCtrl {
   void LeaveCells();
   /// Runs something that replaces the whole text; what it did cannot be undone, and is told once, by the
   /// caller.
-  void Replace(const std::function<void()>& load);
+  void ReplaceContent(const std::function<void()>& load);
 
   /// The format of a text that has none: the system's font, black, to the right where the language runs so.
   void UseBaseStyle();

@@ -102,7 +102,7 @@ void RichTextControl::OnMoved() {
 
 void RichTextControl::UpdateBars() {
   if (isStatusBarVisible_) TXStatusBar1->Show(*this);
-  if (IsButtonBarVisible()) TXButtonBar->Update(*this);
+  if (IsButtonBarVisible()) TXButtonBar->ShowState(*this);
   if (isRulerVisible_) TXRuler->Update();
 }
 
@@ -162,7 +162,7 @@ wxString RichTextControl::Text() const {
 
 void RichTextControl::SetText(const wxString& text) {
   SetProperty("Text", [&] {
-    TXTextControl->Replace([&] { TXTextControl->ChangeValue(text); });
+    TXTextControl->ReplaceContent([&] { TXTextControl->ChangeValue(text); });
     OnChanged();
   });
 }
