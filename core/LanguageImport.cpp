@@ -35,8 +35,8 @@ void TellOfMachine() {
 /// One import, from its beginning until its effect is known.
 class Import : public wxEvtHandler {
  public:
-  Import(int code, wxString file, std::unique_ptr<platform::RegistryImport> running)
-      : code_(code), file_(std::move(file)), running_(std::move(running)), timer1_(this) {
+  Import(int code, const wxString& file, std::unique_ptr<platform::RegistryImport> running)
+      : code_(code), file_(file), running_(std::move(running)), timer1_(this) {
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Timer1_Timer(); });
   }
 

@@ -111,7 +111,7 @@ void ucMaskedNumber::SetUnitsPerShown(std::int32_t units) try {
   if (units < 1) throw Error(ErrorNumber::Overflow, "no units in what is shown");
   const double number = Number();
   unitsPerShown_ = units;
-  Rewrite(Show(number));
+  Rewrite(ShownText(number));
 } catch (...) {
   mindloft::Raise(kName, "UnitsPerShown");
 }

@@ -30,6 +30,7 @@ void DeleteSelectedGroups(const KindScope& scope, const std::vector<wxString>& k
       return Refuse(texts::kBuiltIn, Tessaline::kInformationTitle, scope.owner, {ToWx(group->Name())});
   if (!ConfirmDeletion({texts::kDeleteGroup, texts::kDeleteGroups}, groups.size(), scope.owner)) return;
   std::vector<ObjectVersion> versions;
+  versions.reserve(groups.size());
   for (const auto& group : groups) versions.push_back({group->Stored().id, group->Stored().version});
   all->Delete(versions);
   // One for all: the list of the domain's groups is read anew.
