@@ -4,56 +4,25 @@
 #
 # The source is Debian's own source package, of the version that the native side uses, so that both desktops order names
 # alike; its data are reduced to what the program's languages need. It is kept, built, in a cache folder outside the tree
-# whose name holds a key made of this script's content. A cache of its own beside that of windows-libs.sh: neither
-# is built anew because the other has changed.
+# (windows-cache.sh), of its own beside that of windows-libs.sh: neither is built anew because the other has changed.
 set -euo pipefail
 
 self=$(readlink -f "${BASH_SOURCE[0]}")
-key=$(sha256sum "$self" | cut -c1-12)
-root=${MINDLOFT_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/mindloft}
-prefix=$root/windows-icu-$key
+source "$(dirname "$self")/windows-cache.sh"
+use_cache windows-icu "$self"
 if [ "${1:-}" = --where ]; then
   # Where it is or will be, without building it.
   echo "$prefix"
   exit 0
 fi
-if [ -e "$prefix/.complete" ]; then
-  echo "$prefix"
-  exit 0
-fi
-
-mkdir -p "$root"
-exec 9>"$root/windows-icu-$key.lock"
-flock 9
-if [ -e "$prefix/.complete" ]; then
-  echo "$prefix"
-  exit 0
-fi
-exec 3>&1 >&2
+begin_build
 
 suite=bookworm
 # German has no rules of its own: the root's order is its.
 languages="ar ja tr zh"
-work=$root/build-icu-$key
-rm -rf "$prefix" "$work"
-mkdir -p "$work" "$prefix"/{lib,include/unicode}
-
-# A private package configuration with a source entry, made from the machine's own Debian entries.
-apt_private=$work/apt
-mkdir -p "$apt_private"/{lists/partial,cache/archives/partial}
-debian_uri() {
-  awk '/^URIs:/ && $2 !~ /security/ && $2 ~ /debian/ { print $2; exit }' /etc/apt/sources.list.d/*.sources 2>/dev/null |
-    grep . || awk '$1 == "deb" { for (i = 2; i <= NF; i++) if ($i ~ /^[a-z+]+:/) { if ($i !~ /security/) { print $i; exit } break } }' \
-    /etc/apt/sources.list /etc/apt/sources.list.d/*.list 2>/dev/null
-}
-uri=$(debian_uri)
-[ -n "$uri" ] || { echo "no Debian package source is configured on this machine" >&2; exit 1; }
-echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $uri $suite main" >"$apt_private/sources.list"
-apt_opts=(-o "Dir::Etc::SourceList=$apt_private/sources.list" -o Dir::Etc::SourceParts=/dev/null
-  -o "Dir::State::Lists=$apt_private/lists" -o "Dir::Cache=$apt_private/cache" -o APT::Sandbox::User=root
-  -o Acquire::Retries=3)
-apt-get "${apt_opts[@]}" update -qq
-(cd "$work" && apt-get "${apt_opts[@]}" source -qq --download-only "icu/$suite" && dpkg-source -x ./*.dsc "$work/icu")
+mkdir -p "$prefix/include/unicode"
+use_sources "$suite"
+fetch icu "$suite"
 
 host=x86_64-w64-mingw32
 source=$work/icu/source
@@ -99,6 +68,4 @@ $host-gcc-posix -c "$work/data.s" -o "$work/data.o"
 $host-ar rcs "$prefix/lib/libicu-data.a" "$work/data.o"
 cp "$source/common/unicode"/*.h "$source/i18n/unicode"/*.h "$prefix/include/unicode/"
 
-touch "$prefix/.complete"
-rm -rf "$work"
-echo "$prefix" >&3
+end_build
