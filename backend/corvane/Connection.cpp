@@ -48,6 +48,10 @@ bool Connection::Login(const std::string& userName, const std::string& password,
   }
 }
 
+void Connection::SetLanguage(int language, const Progress& progress) {
+  if (IsLoggedIn()) login_->session->Door().SetLanguage(login_->session->id, language, progress);
+}
+
 void Connection::Logout() {
   if (!IsLoggedIn()) return;
   // Whatever the directory answers, this login is over and its file is let go.

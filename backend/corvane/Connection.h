@@ -56,6 +56,10 @@ class Connection {
   /// Objects that this login has given out are refused from now on. Nothing happens when nobody is logged in.
   void Logout();
 
+  /// Orders and searches names by a language's rules from now on; see Directory::SetLanguage. Nothing happens
+  /// when nobody is logged in.
+  void SetLanguage(int language, const Progress& progress);
+
   bool IsLoggedIn() const { return login_->session->id != 0; }
   const ConnectionTarget& Target() const { return target_; }
 

@@ -7,7 +7,9 @@
 #include "backend/corvane/IdList.h"
 #include "backend/corvane/MembershipLists.h"
 #include "backend/corvane/Users.h"
+#include "backend/corvane/document/DocumentText.h"
 #include "backend/errors/Error.h"
+#include "platform/Unicode.h"
 
 namespace mindloft::Corvane {
 
@@ -28,6 +30,23 @@ void KDomain::SetStyleId(const std::string& id) {
   edited_.style = ids.empty() ? 0 : ids.front();
 }
 
+void KDomain::SetDescription(std::string text) {
+  edited_.description = std::move(text);
+  edited_.document.clear();
+}
+
+SafeDocument KDomain::Document() const {
+  if (edited_.document.empty())
+    return {.xml = DocumentOfPlainText(edited_.description), .state = DocumentState::Whole};
+  return SanitizeDocument(edited_.document);
+}
+
+void KDomain::SetDocument(const std::string& xml) {
+  edited_.description = PlainTextOf(xml);
+  edited_.description.resize(platform::BytesOfCharacters(edited_.description, kDescriptionLength));
+  edited_.document = xml;
+}
+
 std::shared_ptr<Users> KDomain::DUsers() const {
   return std::make_shared<Users>(session_, Collection::DomainUsers, stored_.id);
 }
@@ -45,6 +64,7 @@ void KDomain::Update(const Progress& progress) {
     change.version = stored_.version;
     bool changed = TakeChanged(change.name, stored_.name, edited_.name);
     changed |= TakeChanged(change.description, stored_.description, edited_.description);
+    changed |= TakeChanged(change.document, stored_.document, edited_.document);
     changed |= TakeChanged(change.style, stored_.style, edited_.style);
     changed |= TakeChanged(change.disabled, stored_.disabled, edited_.disabled);
     if (!changed) return;

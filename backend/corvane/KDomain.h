@@ -4,6 +4,7 @@
 #include <string>
 
 #include "backend/corvane/Session.h"
+#include "backend/corvane/document/SanitizeDocument.h"
 
 namespace mindloft::Corvane {
 
@@ -20,7 +21,12 @@ class KDomain {
   const std::string& Name() const { return edited_.name; }
   void SetName(std::string name) { edited_.name = std::move(name); }
   const std::string& Description() const { return edited_.description; }
-  void SetDescription(std::string text) { edited_.description = std::move(text); }
+  /// Takes a formatted description away.
+  void SetDescription(std::string text);
+  /// The description as a formatted document, made safe to show; of a plain one its lines as paragraphs.
+  SafeDocument Document() const;
+  /// The document's beginning becomes the plain description, for lists and searches.
+  void SetDocument(const std::string& xml);
   std::string StyleId() const;
   /// Empty: none. TypeMismatch when it is no identifier.
   void SetStyleId(const std::string& id);
@@ -29,6 +35,8 @@ class KDomain {
   std::shared_ptr<Users> DUsers() const;
   std::shared_ptr<Corvane::DGroups> DGroups() const;
   bool IsNew() const { return stored_.id == 0; }
+  /// The longest plain description in characters.
+  static constexpr std::size_t kDescriptionLength = 2000;
   /// What Update of a new domain takes over.
   void CopyFrom(const DomainCopy& copy) { copy_ = copy; }
   void Update(const Progress& progress = {});

@@ -23,8 +23,9 @@ struct UserChange : ObjectVersion {
   std::optional<bool> enabled;
 };
 
+/// A new description without a document takes the formatted one away.
 struct DomainChange : ObjectVersion {
-  std::optional<std::string> name, description;
+  std::optional<std::string> name, description, document;
   std::optional<ObjectId> style;
   std::optional<bool> disabled;
 };

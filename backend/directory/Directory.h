@@ -39,6 +39,12 @@ class Directory {
   /// beside it. Whether they are right shows at Login only.
   virtual void PrepareLogin(std::string_view name, std::string_view password) = 0;
   virtual void Logout(SessionId session) = 0;
+  /// From now on names are ordered and searched by the rules of this language in the session (a Windows
+  /// identifier: 1033 English, 2052 simplified Chinese, ...); until then by those that English and many
+  /// others share. The first use of some rules in a directory sorts all users, which takes seconds for a
+  /// million of them. The session's rules stay as they were when it fails: Cancelled when `progress` says so,
+  /// CollationMissing when this computer cannot order by them.
+  virtual void SetLanguage(SessionId session, int language, const Progress& progress) = 0;
   /// The user who is logged in, as stored now.
   virtual UserRecord CurrentUser(SessionId session) = 0;
   /// The system privileges of a user: those of all roles that hold the user.

@@ -44,8 +44,9 @@ struct DomainRecord {
   ObjectId id = 0;
   Version version = 0;
   std::string name;
-  std::string description;
-  ObjectId style = 0;  ///< 0: none
+  std::string description;  ///< plain text; of a formatted description its beginning
+  std::string document;     ///< the formatted description (XML); empty: none, or the row of a page
+  ObjectId style = 0;       ///< 0: none
   bool disabled = false;
   bool operator==(const DomainRecord&) const = default;
 };

@@ -35,12 +35,6 @@ class SqliteDirectory : public Directory {
   /// DirectoryForeign, DirectoryDamaged, DirectoryNewer, DirectoryReadOnly.
   static std::unique_ptr<SqliteDirectory> Open(const std::filesystem::path& file);
 
-  /// From now on names are ordered and searched by the rules of this language in the session (a Windows
-  /// identifier: 1033 English, 2052 simplified Chinese, ...); until then by those that English and many
-  /// others share. The first use of some rules in a directory sorts all users, which takes seconds for a
-  /// million of them; Cancelled when `progress` says so: the session's rules stay as they were.
-  virtual void SetLanguage(SessionId session, int language, const Progress& progress) = 0;
-
   /// What is wrong with the file, in words for an administrator's terminal: integrity, references, guard
   /// rails, the order and search indexes. Empty: all is well.
   virtual std::vector<std::string> Check() = 0;

@@ -52,6 +52,8 @@ enum class ErrorNumber : std::int32_t {
 
   SecretNotProtected = 60060,  ///< a password could not be kept for this user only
 
+  CollationMissing = 60080,  ///< the library of the languages' orders lacks a language's
+
   // Formatted documents.
   DocumentBroken = 60095,    ///< what was left of its text stands as plain text
   DocumentTooLarge = 60096,  ///< more than a stored document may hold

@@ -1,3 +1,4 @@
+#include "backend/corvane/document/DocumentText.h"
 #include "tests/corvane/CorvaneFixture.h"
 
 namespace mindloft::test {
@@ -20,6 +21,28 @@ TEST_F(CollectionTest, AnUnknownKeyIsNothing) {
   EXPECT_FALSE(domain->DGroups()->Item(other->DGroups()->OfKind(AdministratorsGroup)->Id()));
   EXPECT_FALSE(domain->DUsers()->Item(console_->Connection()->CurrentUser()->Id()));
   EXPECT_FALSE(domain->DGroups()->OfKind(77));
+}
+
+TEST_F(CollectionTest, ADomainsFormattedDescriptionAndItsPlainBeginning) {
+  const auto domain = AddDomain("Domain");
+  domain->SetDescription("first\nsecond");
+  domain->Update();
+  // An older, plain description is taken over line by line.
+  const auto document = domain->Document();
+  EXPECT_EQ(document.state, Corvane::DocumentState::Whole);
+  EXPECT_EQ(Corvane::PlainTextOf(document.xml), "first\nsecond");
+
+  const std::string letters(Corvane::KDomain::kDescriptionLength - 1, 'x');
+  const auto formatted = Corvane::DocumentOfPlainText(letters + "e\u0301 and more");
+  domain->SetDocument(formatted);
+  domain->Update();
+  const auto stored = server_->KDomains()->Item(domain->Id())->KDomain();
+  EXPECT_EQ(stored->Description(), letters);
+  EXPECT_EQ(stored->Document().xml, formatted);
+  stored->SetDescription("plain again");
+  stored->Update();
+  EXPECT_EQ(Corvane::PlainTextOf(server_->KDomains()->Item(domain->Id())->KDomain()->Document().xml),
+            "plain again");
 }
 
 TEST_F(CollectionTest, GroupsOfADomain) {

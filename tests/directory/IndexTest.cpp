@@ -204,7 +204,9 @@ class IndexTest : public testing::Test {
 class IndexModelTest : public IndexTest {
  protected:
   IndexModelTest() {
-    database_.Execute("INSERT INTO domain VALUES(1,1,'d','d','',NULL,0),(2,1,'e','e','',NULL,0)");
+    database_.Execute(
+        "INSERT INTO domain(id,version,name,name_key,description,style,disabled) "
+        "VALUES(1,1,'d','d','',NULL,0),(2,1,'e','e','',NULL,0)");
     database_.Execute("INSERT INTO grp VALUES(1,1,1,0,0,1,0,'g','g',''),(2,1,2,0,0,1,0,'h','h','')");
     database_.Execute("INSERT OR IGNORE INTO role VALUES(1,1,'r','r',0,0)");
     model_.domainOfGroup = {{1, 1}, {2, 2}};

@@ -187,6 +187,7 @@ CREATE TABLE user_order(ord INTEGER PRIMARY KEY, blocks BLOB NOT NULL);
 CREATE TABLE user_order_block(id INTEGER PRIMARY KEY, users BLOB NOT NULL);
 INSERT INTO user_order VALUES(0, x'000000000B000000'), (1, x''), (2, x'');
 INSERT INTO user_order_block VALUES(0, zeroblob(44));
+ALTER TABLE domain DROP COLUMN document;
 PRAGMA user_version = 2;
 )sql";
 
@@ -194,7 +195,7 @@ TEST_F(LanguageTest, AnOldFileIsBroughtUpToDate) {
   directory_.reset();
   Sql(kDowngrade);
   directory_ = SqliteDirectory::Open(file_);
-  EXPECT_EQ(directory_->Info().schemaVersion, 3);
+  EXPECT_EQ(directory_->Info().schemaVersion, 4);
   ExpectWhole();
   admin_ = directory_->Login("admin", kPassword);
   // A change before anybody has read the orders.

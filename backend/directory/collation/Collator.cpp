@@ -25,7 +25,7 @@ void Require(UErrorCode status, LanguageRules rules) {
   // A fallback is a success with a warning for the library; for the order it is another one.
   const bool another = status == U_USING_DEFAULT_WARNING && rules != LanguageRules::Neutral;
   if (U_FAILURE(status) || another) {
-    throw Error(kCollationMissing, std::string(LocaleOf(rules)) + ": " + u_errorName(status));
+    throw Error(ErrorNumber::CollationMissing, std::string(LocaleOf(rules)) + ": " + u_errorName(status));
   }
 }
 

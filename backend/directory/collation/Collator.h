@@ -5,20 +5,16 @@
 #include <string_view>
 
 #include "backend/directory/collation/LanguageRules.h"
-#include "backend/errors/ErrorNumbers.h"
 
 struct UCollator;
 
 namespace mindloft {
 
-/// The library lacks a language's rules.
-inline constexpr ErrorNumber kCollationMissing{60080};
-
 /// Orders texts by the rules of a language: the Unicode collation algorithm with the CLDR's tailorings (ICU).
 /// Texts are given folded, so that case and width make no difference. Any thread may use it.
 class Collator {
  public:
-  /// Made at its first use and kept. Throws kCollationMissing when the library lacks the language's rules.
+  /// Made at its first use and kept. CollationMissing when the library lacks the language's rules.
   static const Collator& Of(LanguageRules rules);
 
   /// Keys compare as bytes, as the rules order their texts; they hold no zero. Equal keys are texts that the

@@ -108,13 +108,18 @@ CREATE TABLE user_order(ord INTEGER PRIMARY KEY, blocks BLOB NOT NULL);
 CREATE TABLE user_order_block(id INTEGER PRIMARY KEY, users BLOB NOT NULL);
 )sql";
 
+// The last column: who reads the others does not go through the pages of a long document.
+void AddDomainDocument(sqlite::Database& database) {
+  database.Execute("ALTER TABLE domain ADD COLUMN document TEXT NOT NULL DEFAULT ''");
+}
+
 void CreateFirstSchema(sqlite::Database& database) {
   database.Execute(kTables);
   database.Execute(kFirstIndex);
 }
 
 constexpr Migration kMigrations[] = {
-    {1, CreateFirstSchema}, {2, RenewStartingStyles}, {3, UserIndex::UpgradeTables}};
+    {1, CreateFirstSchema}, {2, RenewStartingStyles}, {3, UserIndex::UpgradeTables}, {4, AddDomainDocument}};
 
 }  // namespace
 

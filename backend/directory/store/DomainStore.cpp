@@ -14,8 +14,19 @@ DomainRecord ReadDomain(const sqlite::Statement& row) {
           .version = row.Int(1),
           .name = row.Text(2),
           .description = row.Text(3),
+          .document = {},
           .style = row.Int(4),
           .disabled = row.Int(5) != 0};
+}
+
+DomainRecord ReadWholeDomain(const sqlite::Statement& row) {
+  DomainRecord domain = ReadDomain(row);
+  domain.document = row.Text(6);
+  return domain;
+}
+
+std::string CheckedDocument(const std::string& document) {
+  return CheckedText(document, "document", kDocumentLength);
 }
 
 JournalSubject SubjectOf(const DomainRecord& domain) {
@@ -28,6 +39,7 @@ JsonObject Fields(const DomainRecord& domain) {
   json.Add("description", domain.description);
   json.Add("style", domain.style);
   json.Add("disabled", domain.disabled);
+  if (!domain.document.empty()) json.Add("documentBytes", std::ssize(domain.document));
   return json;
 }
 
@@ -40,7 +52,10 @@ std::vector<DomainRecord> DomainStore::Read(const std::vector<ObjectId>& ids) {
 }
 
 std::optional<DomainRecord> DomainStore::Find(ObjectId id) {
-  return FirstOf(Read({id}));
+  return FirstOf(
+      ReadRecords(parts_.database,
+                  "SELECT id, version, name, description, style, disabled, document FROM domain WHERE id = ?",
+                  std::vector{id}, ReadWholeDomain));
 }
 
 DomainRecord DomainStore::Require(const ObjectVersion& domain) {
@@ -61,14 +76,15 @@ DomainRecord DomainStore::Create(const Caller& caller, DomainRecord domain, cons
   parts_.rights.Require(caller, CreateDomains);
   domain.name = CheckedName(domain.name);
   domain.description = CheckedText(domain.description, "description");
+  domain.document = CheckedDocument(domain.document);
   RequireStyle(domain.style);
   domain.version = 1;
   parts_.database
       .Prepare(
-          "INSERT INTO domain (version, name, name_key, description, style, disabled) "
-          "VALUES (1, ?, ?, ?, nullif(?, 0), ?)")
+          "INSERT INTO domain (version, name, name_key, description, style, disabled, document) "
+          "VALUES (1, ?, ?, ?, nullif(?, 0), ?, ?)")
       ->BindAll(domain.name, FreeNameKey(parts_.database, "domain", domain.name), domain.description,
-                domain.style, domain.disabled)
+                domain.style, domain.disabled, domain.document)
       .Run();
   domain.id = parts_.database.LastInsertId();
   JsonObject after = Fields(domain);
@@ -85,6 +101,16 @@ DomainRecord DomainStore::Create(const Caller& caller, DomainRecord domain, cons
   return domain;
 }
 
+void DomainStore::PutDocument(DomainRecord& domain, const std::string& document, FieldChanges& changes) {
+  if (document == domain.document) return;
+  // That the formats changed is enough for the journal: whole documents would make it grow without bounds.
+  changes.Note("documentBytes", std::ssize(domain.document), std::ssize(document));
+  domain.document = CheckedDocument(document);
+  parts_.database.Prepare("UPDATE domain SET document = ? WHERE id = ?")
+      ->BindAll(domain.document, domain.id)
+      .Run();
+}
+
 DomainRecord DomainStore::Change(const Caller& caller, const DomainChange& change) {
   parts_.rights.RequireInDomain(caller, change.id, ChangeDomain);
   DomainRecord domain = Require(change);
@@ -94,6 +120,7 @@ DomainRecord DomainStore::Change(const Caller& caller, const DomainChange& chang
     changes.Put("description", domain.description,
                 std::optional(CheckedText(*change.description, "description")));
   }
+  if (change.document || change.description) PutDocument(domain, change.document.value_or(""), changes);
   if (change.style) RequireStyle(*change.style);
   changes.Put("style", domain.style, change.style);
   changes.Put("disabled", domain.disabled, change.disabled);

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "backend/directory/store/FieldChanges.h"
 #include "backend/directory/store/GroupStore.h"
 #include "backend/directory/store/StoreParts.h"
 
@@ -14,6 +15,7 @@ class DomainStore {
   DomainStore(const StoreParts& parts, GroupStore& groups) : parts_(parts), groups_(groups) {}
 
   std::optional<DomainRecord> Find(ObjectId id);
+  /// Without their documents.
   std::vector<DomainRecord> Read(const std::vector<ObjectId>& ids);
 
   DomainRecord Create(const Caller& caller, DomainRecord domain, const DomainCopy& copy,
@@ -26,6 +28,7 @@ class DomainStore {
 
  private:
   void RequireStyle(ObjectId style);
+  void PutDocument(DomainRecord& domain, const std::string& document, FieldChanges& changes);
 
   StoreParts parts_;
   GroupStore& groups_;

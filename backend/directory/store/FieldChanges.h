@@ -18,6 +18,11 @@ class FieldChanges {
     after_.Add(field, *value);
     stored = *value;
   }
+  /// What the journal is to tell of a change that is put elsewhere.
+  void Note(std::string_view field, std::int64_t before, std::int64_t after) {
+    before_.Add(field, before);
+    after_.Add(field, after);
+  }
   bool Empty() const { return after_.Empty(); }
   const JsonObject& Before() const { return before_; }
   const JsonObject& After() const { return after_; }
