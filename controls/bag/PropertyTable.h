@@ -27,6 +27,10 @@ class PropertyTable {
   };
 
   PropertyTable(std::initializer_list<Entry> entries) : entries_(entries) {}
+  /// What several kinds of control share, and after it what this one adds.
+  PropertyTable(std::vector<Entry> shared, std::initializer_list<Entry> own) : entries_(std::move(shared)) {
+    entries_.insert(entries_.end(), own);
+  }
 
   /// Sets every property, a missing one to its default. Throws, naming the property, when the bag holds one
   /// that the control does not have or a text of the wrong type; what stands before it has been set then.

@@ -4,19 +4,19 @@
 #include <wx/paper.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <string>
 
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Services.h"
+#include "platform/Lengths.h"
 
 namespace mindloft {
 namespace {
 
-constexpr int kTenthsPerMillimetre = 10;
-
 int Millimetres(std::int32_t tenths) {
-  return (tenths + kTenthsPerMillimetre / 2) / kTenthsPerMillimetre;
+  return static_cast<int>(std::lround(platform::MillimetresOf(tenths)));
 }
 
 /// The toolkit's name for a sheet of that size; none when it knows no such paper. Drivers round differently.

@@ -13,16 +13,16 @@
 #include "core/ErrorHandling.h"
 #include "core/forms/Form.h"
 #include "core/forms/FormResource.h"
+#include "platform/Lengths.h"
 
 namespace mindloft {
 namespace {
 
 constexpr const char* kName = "UserPrintSetup";
-constexpr std::int32_t kTenthsPerMillimetre = 10;
 
 wxString Millimetres(std::int32_t tenths) {
   static const NumberPicture oneDecimal("0.0");
-  return oneDecimal.Format(static_cast<double>(tenths) / kTenthsPerMillimetre);
+  return oneDecimal.Format(platform::MillimetresOf(tenths));
 }
 
 }  // namespace
@@ -41,7 +41,7 @@ bool UserPrintSetup::Create(wxWindow* parent, wxWindowID id, const wxPoint& posi
   sizer->Add(content_, wxSizerFlags(1).Expand());
   SetSizer(sizer);
   FindControls();
-  for (ucMaskedNumber* number : numbers_) number->SetUnitsPerShown(kTenthsPerMillimetre);
+  for (ucMaskedNumber* number : numbers_) number->SetUnitsPerShown(platform::kTenthsPerMillimetre);
   const PageSettings usual;
   txtPaperWidth->SetValue(usual.paperWidth);
   txtPaperHeight->SetValue(usual.paperHeight);

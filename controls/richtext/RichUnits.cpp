@@ -2,21 +2,19 @@
 
 #include <cmath>
 
+#include "platform/Lengths.h"
 #include "platform/ui/Metrics.h"
 
 namespace mindloft {
-namespace {
-
-constexpr double kTenthsPerInch = 254;
-
-}  // namespace
 
 int TenthsToPixels(int tenths, const wxWindow& window) {
-  return static_cast<int>(std::lround(tenths * platform::Resolution(&window).x / kTenthsPerInch));
+  return static_cast<int>(
+      std::lround(static_cast<double>(tenths) * platform::Resolution(&window).x / platform::kTenthsPerInch));
 }
 
 int PixelsToTenths(int pixels, const wxWindow& window) {
-  return static_cast<int>(std::lround(pixels * kTenthsPerInch / platform::Resolution(&window).x));
+  return static_cast<int>(
+      std::lround(static_cast<double>(pixels) * platform::kTenthsPerInch / platform::Resolution(&window).x));
 }
 
 }  // namespace mindloft

@@ -12,13 +12,13 @@
 #include "controls/richtext/RichEditor.h"
 #include "controls/richtext/RulerPicture.h"
 #include "core/ErrorHandling.h"
+#include "platform/Lengths.h"
 #include "platform/SystemLocale.h"
 #include "platform/ui/Metrics.h"
 
 namespace mindloft {
 namespace {
 
-constexpr double kTenthsPerInch = 254;
 constexpr int kReach = 5;  ///< pixels at 96 dpi to a mark that is meant
 constexpr int kHeight = 24;
 constexpr std::uint32_t kInchLocales[] = {1033};  ///< United States
@@ -64,7 +64,7 @@ wxSize Ruler::DoGetBestClientSize() const {
 }
 
 double Ruler::PixelsPerTenth() const {
-  return platform::Resolution(this).x / kTenthsPerInch * editor_->ZoomFactor();
+  return editor_->ZoomFactor() * platform::Resolution(this).x / platform::kTenthsPerInch;
 }
 
 int Ruler::PixelOf(int tenths) const {

@@ -1,19 +1,13 @@
 #include "controls/richtext/TXControl.h"
 
+#include "controls/richtext/RichTextProperties.h"
+
 namespace mindloft {
 
 const PropertyTable<TXControl>& TXControl::Properties() {
-  using C = TXControl;
-  static const PropertyTable<C> table{
-      InheritedProperty<C>("Text", &C::Text, &C::SetText, wxString()),
-      InheritedProperty<C>("Enable", &C::GetEnable, &C::SetEnable, true),
-      InheritedProperty<C>("ViewMode", &C::ViewMode, &C::SetViewMode, kNormalView),
-      InheritedProperty<C>("GridLines", &C::GridLines, &C::SetGridLines, true),
-      InheritedProperty<C>("Locked", &C::Locked, &C::SetLocked, false),
-      InheritedProperty<C>("StatueBarVisible", &C::StatueBarVisible, &C::SetStatueBarVisible, true),
-      InheritedProperty<C>("RulerBarVisible", &C::RulerBarVisible, &C::SetRulerBarVisible, true),
-      KeptProperty("ButtonBarVisible", &C::ButtonBarVisible, &C::SetButtonBarVisible, true),
-  };
+  static const PropertyTable<TXControl> table(RichTextProperties<TXControl>(),
+                                              {KeptProperty("ButtonBarVisible", &TXControl::ButtonBarVisible,
+                                                            &TXControl::SetButtonBarVisible, true)});
   return table;
 }
 

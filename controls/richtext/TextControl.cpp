@@ -1,20 +1,12 @@
 #include "controls/richtext/TextControl.h"
 
 #include "controls/buttons/RaiseEvent.h"
+#include "controls/richtext/RichTextProperties.h"
 
 namespace mindloft {
 
 const PropertyTable<TextControl>& TextControl::Properties() {
-  using C = TextControl;
-  static const PropertyTable<C> table{
-      InheritedProperty<C>("Text", &C::Text, &C::SetText, wxString()),
-      InheritedProperty<C>("Enable", &C::GetEnable, &C::SetEnable, true),
-      InheritedProperty<C>("ViewMode", &C::ViewMode, &C::SetViewMode, kNormalView),
-      InheritedProperty<C>("GridLines", &C::GridLines, &C::SetGridLines, true),
-      InheritedProperty<C>("Locked", &C::Locked, &C::SetLocked, false),
-      InheritedProperty<C>("StatueBarVisible", &C::StatueBarVisible, &C::SetStatueBarVisible, true),
-      InheritedProperty<C>("RulerBarVisible", &C::RulerBarVisible, &C::SetRulerBarVisible, true),
-  };
+  static const PropertyTable<TextControl> table(RichTextProperties<TextControl>(), {});
   return table;
 }
 

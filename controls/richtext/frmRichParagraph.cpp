@@ -4,23 +4,22 @@
 #include <wx/spinctrl.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "backend/tessaline/Services.h"
 #include "controls/RegisterControls.h"
 #include "core/ErrorHandling.h"
+#include "platform/Lengths.h"
 
 namespace mindloft {
 namespace {
 
-constexpr double kTenths = 10;
 constexpr int kAlignmentTexts[] = {62017, 62018, 62019, 62020};
 constexpr int kSpacings[] = {wxTEXT_ATTR_LINE_SPACING_NORMAL, wxTEXT_ATTR_LINE_SPACING_HALF,
                              wxTEXT_ATTR_LINE_SPACING_TWICE};
 constexpr int kSpacingTexts[] = {62070, 62071, 62072};
 
-int TenthsOf(const wxSpinCtrlDouble& box) {
-  return static_cast<int>(std::lround(box.GetValue() * kTenths));
+int TenthsIn(const wxSpinCtrlDouble& box) {
+  return platform::TenthsOf(box.GetValue());
 }
 
 }  // namespace
@@ -53,11 +52,11 @@ void frmRichParagraph::ShowFormat(const wxRichTextAttr& format) {
       format.HasAlignment() ? static_cast<int>(format.GetAlignment()) : wxTEXT_ALIGNMENT_LEFT;
   cboAlignment->SetSelection(std::clamp(alignment - wxTEXT_ALIGNMENT_LEFT, 0, 3));
   // The component keeps the first line's indent, and by how much more the others have.
-  spnLeft->SetValue((format.GetLeftIndent() + format.GetLeftSubIndent()) / kTenths);
-  spnFirst->SetValue(-format.GetLeftSubIndent() / kTenths);
-  spnRight->SetValue(format.GetRightIndent() / kTenths);
-  spnBefore->SetValue(format.GetParagraphSpacingBefore() / kTenths);
-  spnAfter->SetValue(format.GetParagraphSpacingAfter() / kTenths);
+  spnLeft->SetValue(platform::MillimetresOf(format.GetLeftIndent() + format.GetLeftSubIndent()));
+  spnFirst->SetValue(platform::MillimetresOf(-format.GetLeftSubIndent()));
+  spnRight->SetValue(platform::MillimetresOf(format.GetRightIndent()));
+  spnBefore->SetValue(platform::MillimetresOf(format.GetParagraphSpacingBefore()));
+  spnAfter->SetValue(platform::MillimetresOf(format.GetParagraphSpacingAfter()));
   const int* spacing = std::find(std::begin(kSpacings), std::end(kSpacings), format.GetLineSpacing());
   cboSpacing->SetSelection(spacing == std::end(kSpacings) ? 0 : static_cast<int>(spacing - kSpacings));
 }
@@ -66,11 +65,11 @@ wxRichTextAttr frmRichParagraph::Chosen() const {
   wxRichTextAttr format;
   format.SetAlignment(static_cast<wxTextAttrAlignment>(cboAlignment->GetSelection() + wxTEXT_ALIGNMENT_LEFT));
   // Nothing stands left of the margin.
-  const int first = std::max(0, TenthsOf(*spnLeft) + TenthsOf(*spnFirst));
-  format.SetLeftIndent(first, TenthsOf(*spnLeft) - first);
-  format.SetRightIndent(TenthsOf(*spnRight));
-  format.SetParagraphSpacingBefore(TenthsOf(*spnBefore));
-  format.SetParagraphSpacingAfter(TenthsOf(*spnAfter));
+  const int first = std::max(0, TenthsIn(*spnLeft) + TenthsIn(*spnFirst));
+  format.SetLeftIndent(first, TenthsIn(*spnLeft) - first);
+  format.SetRightIndent(TenthsIn(*spnRight));
+  format.SetParagraphSpacingBefore(TenthsIn(*spnBefore));
+  format.SetParagraphSpacingAfter(TenthsIn(*spnAfter));
   format.SetLineSpacing(kSpacings[std::max(0, cboSpacing->GetSelection())]);
   return format;
 }

@@ -3,17 +3,11 @@
 #include <wx/checkbox.h>
 #include <wx/spinctrl.h>
 
-#include <cmath>
-
 #include "controls/RegisterControls.h"
 #include "core/ErrorHandling.h"
+#include "platform/Lengths.h"
 
 namespace mindloft {
-namespace {
-
-constexpr double kTenths = 10;
-
-}  // namespace
 
 frmRichTable::frmRichTable(wxWindow* parent) : FormDialog(WithControls(parent), "frmRichTable") {
   spnWidth = Find<wxSpinCtrl>("spnWidth");
@@ -34,13 +28,12 @@ bool frmRichTable::Ask(TableLook& format) try {
 
 void frmRichTable::ShowFormat(const TableLook& format) {
   spnWidth->SetValue(format.widthPerCent);
-  spnPadding->SetValue(format.paddingTenths / kTenths);
+  spnPadding->SetValue(platform::MillimetresOf(format.paddingTenths));
   chkBorder->SetValue(format.hasBorder);
 }
 
 TableLook frmRichTable::Chosen() const {
-  return {spnWidth->GetValue(), static_cast<int>(std::lround(spnPadding->GetValue() * kTenths)),
-          chkBorder->IsChecked()};
+  return {spnWidth->GetValue(), platform::TenthsOf(spnPadding->GetValue()), chkBorder->IsChecked()};
 }
 
 }  // namespace mindloft

@@ -6,17 +6,12 @@
 #include <wx/spinctrl.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "controls/RegisterControls.h"
 #include "core/ErrorHandling.h"
+#include "platform/Lengths.h"
 
 namespace mindloft {
-namespace {
-
-constexpr double kTenths = 10;
-
-}  // namespace
 
 frmRichTabs::frmRichTabs(wxWindow* parent) : FormDialog(WithControls(parent), "frmRichTabs") {
   spnPlace = Find<wxSpinCtrlDouble>("spnPlace");
@@ -46,11 +41,12 @@ bool frmRichTabs::Ask(std::vector<int>& stops) try {
 
 void frmRichTabs::ShowStops() {
   lstStops->Clear();
-  for (const int stop : stops_) lstStops->Append(wxNumberFormatter::ToString(stop / kTenths, 1));
+  for (const int stop : stops_)
+    lstStops->Append(wxNumberFormatter::ToString(platform::MillimetresOf(stop), 1));
 }
 
 void frmRichTabs::cmdAdd_Click() {
-  const int stop = static_cast<int>(std::lround(spnPlace->GetValue() * kTenths));
+  const int stop = platform::TenthsOf(spnPlace->GetValue());
   const auto place = std::lower_bound(stops_.begin(), stops_.end(), stop);
   const auto index = static_cast<int>(place - stops_.begin());
   if (stop > 0 && (place == stops_.end() || *place != stop)) stops_.insert(place, stop);

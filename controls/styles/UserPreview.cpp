@@ -13,6 +13,7 @@
 #include "controls/styles/StyleFont.h"
 #include "controls/styles/StyleTexts.h"
 #include "core/ErrorHandling.h"
+#include "platform/Lengths.h"
 
 namespace mindloft {
 namespace {
@@ -158,12 +159,11 @@ int UserPreview::GetFontWidth() const {
 }
 
 wxSize UserPreview::LetterSize() const {
-  constexpr int kTenthsOfMillimetrePerInch = 254;
   wxClientDC dc(picPreview);
   dc.SetFont(font_);
   const wxSize letter = dc.GetTextExtent("a"), perInch = dc.GetPPI();
-  return {letter.x * kTenthsOfMillimetrePerInch / std::max(1, perInch.x),
-          letter.y * kTenthsOfMillimetrePerInch / std::max(1, perInch.y)};
+  return {letter.x * platform::kTenthsPerInch / std::max(1, perInch.x),
+          letter.y * platform::kTenthsPerInch / std::max(1, perInch.y)};
 }
 
 }  // namespace mindloft

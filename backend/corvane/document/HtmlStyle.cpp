@@ -4,10 +4,12 @@
 #include <cmath>
 #include <optional>
 
+#include "platform/Lengths.h"
+
 namespace mindloft::Corvane {
 namespace {
 
-constexpr double kTenthsPerInch = 254;
+constexpr double kMillimetresPerInch = platform::MillimetresOf(platform::kTenthsPerInch);
 constexpr double kPointsPerInch = 72;
 constexpr double kPixelsPerInch = 96;
 constexpr int kBold = 700;
@@ -57,9 +59,9 @@ std::optional<int> LengthOf(std::string_view text, double perInch) {
   else if (unit == "px")
     inches = number / kPixelsPerInch;
   else if (unit == "mm")
-    inches = number / (kTenthsPerInch / 10);
+    inches = number / kMillimetresPerInch;
   else if (unit == "cm")
-    inches = number / (kTenthsPerInch / 100);
+    inches = number / (kMillimetresPerInch / 10);
   else if (unit == "in")
     inches = number;
   else if (number != 0 || !unit.empty())
@@ -123,13 +125,13 @@ void ReadDeclaration(const std::string& name, std::string_view value, pugi::xml_
       if (lower == kAlignments[i]) SetAttribute(element, "alignment", std::to_string(i + 1));
     }
   } else if (name == "margin-left") {
-    setLength("leftindent", kTenthsPerInch);
+    setLength("leftindent", platform::kTenthsPerInch);
   } else if (name == "margin-right") {
-    setLength("rightindent", kTenthsPerInch);
+    setLength("rightindent", platform::kTenthsPerInch);
   } else if (name == "margin-top") {
-    setLength("parspacingbefore", kTenthsPerInch);
+    setLength("parspacingbefore", platform::kTenthsPerInch);
   } else if (name == "margin-bottom") {
-    setLength("parspacingafter", kTenthsPerInch);
+    setLength("parspacingafter", platform::kTenthsPerInch);
   } else if (name == "page-break-before" && lower == "always") {
     SetAttribute(element, "pagebreak", "1");
   }
@@ -191,7 +193,7 @@ void ReadHtmlStyle(std::string_view style, pugi::xml_node element) {
       const std::string name = Lower(Trimmed(declaration.substr(0, colon)));
       const auto value = Trimmed(declaration.substr(colon + 1));
       if (name == "text-indent")
-        firstLine = LengthOf(Lower(value), kTenthsPerInch).value_or(0);
+        firstLine = LengthOf(Lower(value), platform::kTenthsPerInch).value_or(0);
       else
         ReadDeclaration(name, value, element);
     }
