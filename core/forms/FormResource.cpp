@@ -40,6 +40,7 @@
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Text.h"
 #include "platform/EmbeddedFile.h"
+#include "platform/ui/LabelKeys.h"
 
 namespace mindloft {
 namespace {
@@ -61,6 +62,7 @@ FormResource& FormResource::Get() {
 }
 
 FormResource::FormResource() : wxXmlResource(wxXRC_NO_RELOADING) {
+  platform::LeadLabelKeys();
   // Not all handlers of the toolkit: each costs start-up time, and some pull whole libraries in.
   AddHandlers<wxDialogXmlHandler, wxFrameXmlHandler, wxPanelXmlHandler, wxScrolledWindowXmlHandler,
               wxSplitterWindowXmlHandler, wxNotebookXmlHandler>(*this);
