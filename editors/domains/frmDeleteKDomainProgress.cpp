@@ -41,7 +41,7 @@ frmDeleteKDomainProgress::frmDeleteKDomainProgress(wxWindow* owner, const wxStri
     cmdCancel_Click();
   });
   CentreOnParent();
-  others_ = std::make_unique<wxWindowDisabler>(this);
+  others_ = std::make_unique<platform::OthersDisabled>(this);
   wxDialog::Show();
   cmdCancel->SetFocus();
 }

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <wx/utils.h>
-
 #include <cstdint>
 #include <memory>
 
 #include "core/forms/Form.h"
+#include "platform/ui/OthersDisabled.h"
 
 class wxButton;
 class wxGauge;
@@ -32,7 +31,7 @@ class frmDeleteKDomainProgress : public FormDialog {
   wxStaticText* lblRows = nullptr;
   wxGauge* prgRows = nullptr;
   wxButton* cmdCancel = nullptr;
-  std::unique_ptr<wxWindowDisabler> others_;
+  std::unique_ptr<platform::OthersDisabled> others_;
   std::int64_t shownAt_ = 0;  ///< milliseconds
   bool cancelled_ = false;
 };

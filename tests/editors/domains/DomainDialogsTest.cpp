@@ -2,6 +2,11 @@
 #include <gtest/gtest.h>
 #include <wx/bookctrl.h>
 #include <wx/choice.h>
+#include <wx/frame.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/textctrl.h>
+#include <wx/uiaction.h>
 
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Services.h"
@@ -259,6 +264,28 @@ TEST_F(DomainDialogsTest, GroupsOfADomainUserAreCheckedAndUnchecked) {
   EXPECT_THAT(Names(Group("Readers")->Members()), ElementsAre("back\\slash;1"));
   EXPECT_THAT(Names(Group("Administrators")->Members()), Contains("anna"));
   EXPECT_EQ(UserOf("anna")->Department(), "else");
+}
+
+TEST_F(DomainDialogsTest, AfterALongChangeTheKeyboardIsWhereItWas) {
+  wxFrame frame(nullptr, wxID_ANY, "owner", wxDefaultPosition, wxSize(300, 200));
+  auto* panel = new wxPanel(&frame);
+  auto* sizer = new wxBoxSizer(wxVERTICAL);
+  sizer->Add(new wxTextCtrl(panel, wxID_ANY));
+  auto* box = new wxTextCtrl(panel, wxID_ANY);
+  sizer->Add(box);
+  panel->SetSizer(sizer);
+  frame.Show();
+  frame.Raise();
+  box->SetFocus();
+  WaitFor([&] { return frame.IsActive() && box->HasFocus(); }, "the focus in the second box");
+  EXPECT_TRUE(RunLongChange(&frame, "long", std::chrono::milliseconds(0), [&](const Progress& progress) {
+    progress(0, 2);
+    WaitFor([&] { return !frame.IsActive(); }, "the progress in front");
+    progress(2, 2);
+  }));
+  WaitFor([&] { return frame.IsActive(); }, "the owner in front");
+  wxUIActionSimulator().Char('x');
+  WaitFor([&] { return box->GetValue() == "x"; }, "the character in the second box");
 }
 
 TEST_F(DomainDialogsTest, ALongChangeShowsItselfOnlyWhenItIsLong) {
