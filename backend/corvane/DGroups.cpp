@@ -48,8 +48,8 @@ std::shared_ptr<DGroup> DGroups::Add() const {
   return std::make_shared<DGroup>(session_, std::move(record));
 }
 
-void DGroups::Delete(const std::vector<ObjectVersion>& groups) const {
-  session_->Door().DeleteGroups(session_->id, groups);
+void DGroups::Delete(const std::vector<ObjectVersion>& groups, const Progress& progress) const {
+  session_->Door().DeleteGroups(session_->id, groups, progress);
 }
 
 }  // namespace mindloft::Corvane

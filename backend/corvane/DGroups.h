@@ -25,7 +25,7 @@ class DGroups {
   std::shared_ptr<DGroup> OfKind(std::int32_t kind) const;
   /// A new group, stored by its first Update.
   std::shared_ptr<DGroup> Add() const;
-  void Delete(const std::vector<ObjectVersion>& groups) const;
+  void Delete(const std::vector<ObjectVersion>& groups, const Progress& progress) const;
 
  private:
   std::shared_ptr<Session> session_;

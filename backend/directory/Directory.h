@@ -115,7 +115,9 @@ class Directory {
 
   virtual GroupRecord CreateGroup(SessionId session, const GroupRecord& group) = 0;
   virtual GroupRecord ChangeGroup(SessionId session, const GroupChange& change) = 0;
-  virtual void DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups) = 0;
+  /// All or none.
+  virtual void DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups,
+                            const Progress& progress) = 0;
 
   /// Returns the owner's new version.
   virtual Version ChangeMembers(SessionId session, const MembershipChange& change,

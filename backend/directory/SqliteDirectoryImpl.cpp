@@ -138,8 +138,9 @@ GroupRecord SqliteDirectoryImpl::ChangeGroup(SessionId session, const GroupChang
   return Write(session, [&](const Caller& caller) { return groups_.Change(caller, change); });
 }
 
-void SqliteDirectoryImpl::DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups) {
-  Write(session, [&](const Caller& caller) { groups_.Delete(caller, groups); });
+void SqliteDirectoryImpl::DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups,
+                                       const Progress& progress) {
+  Write(session, [&](const Caller& caller) { groups_.Delete(caller, groups, progress); });
 }
 
 Version SqliteDirectoryImpl::ChangeMembers(SessionId session, const MembershipChange& change,

@@ -77,7 +77,8 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
   void DeleteDomain(SessionId session, const ObjectVersion& domain, const Progress& progress) override;
   GroupRecord CreateGroup(SessionId session, const GroupRecord& group) override;
   GroupRecord ChangeGroup(SessionId session, const GroupChange& change) override;
-  void DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups) override;
+  void DeleteGroups(SessionId session, const std::vector<ObjectVersion>& groups,
+                    const Progress& progress) override;
   Version ChangeMembers(SessionId session, const MembershipChange& change, const Progress& progress) override;
   StyleRecord CreateStyle(SessionId session, const StyleRecord& style) override;
   StyleRecord ChangeStyle(SessionId session, const StyleChange& change) override;

@@ -2,9 +2,11 @@
 
 #include "backend/corvane/Corvane.h"
 #include "backend/directory/Privileges.h"
+#include "backend/tessaline/GroupedNumber.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "core/Refresh.h"
+#include "editors/LongChange.h"
 #include "editors/domains/DomainRights.h"
 #include "editors/members/frmDGroupProperty.h"
 #include "mainwindow/objects/FindObjects.h"
@@ -32,9 +34,12 @@ void DeleteSelectedGroups(const KindScope& scope, const std::vector<wxString>& k
   std::vector<ObjectVersion> versions;
   versions.reserve(groups.size());
   for (const auto& group : groups) versions.push_back({group->Stored().id, group->Stored().version});
-  all->Delete(versions);
+  const auto count = GroupedNumber(static_cast<std::int64_t>(groups.size()));
+  const auto caption = GetResource().GetFormatString(texts::kDeletingGroups, {count});
   // One for all: the list of the domain's groups is read anew.
-  GetRefresh()->Notify(ObjectKind::UserGroup, ObjectAction::Deleted, groups.front());
+  if (RunLongChange(scope.owner, caption, kPatience,
+                    [&](const Progress& progress) { all->Delete(versions, progress); }))
+    GetRefresh()->Notify(ObjectKind::UserGroup, ObjectAction::Deleted, groups.front());
 }
 
 void ShowGroupProperties(const KindScope& scope, const std::vector<wxString>& keys) {

@@ -26,5 +26,6 @@ inline constexpr int kDeletingDomain = 61710;       ///< %1 its name
 inline constexpr int kDeletingUsers = 61711;        ///< %1 how many
 inline constexpr int kTooManyToDelete = 61780;      ///< %1 how many at most, %2 how many are selected
 inline constexpr int kRemovingDomainUsers = 61782;  ///< %1 how many
+inline constexpr int kDeletingGroups = 61783;       ///< %1 how many
 
 }  // namespace mindloft::texts

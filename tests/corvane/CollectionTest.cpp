@@ -78,7 +78,7 @@ TEST_F(CollectionTest, GroupsOfADomain) {
             ErrorNumber::TypeMismatch);
 
   const auto stored = domain->DGroups()->Item(group->Id())->Stored();
-  domain->DGroups()->Delete({{stored.id, stored.version}});
+  domain->DGroups()->Delete({{stored.id, stored.version}}, {});
   EXPECT_FALSE(domain->DGroups()->Item(group->Id()));
   server_->Users()->Delete({{user->Stored().id, server_->Users()->Item(user->Id())->Stored().version}});
   EXPECT_FALSE(server_->Users()->Item(user->Id()));

@@ -82,7 +82,7 @@ TEST_F(ConflictTest, WhatIsGoneIsNotFound) {
         directory_->DeleteUsers(admin_, {{user.id, 1}}, {});
       },
       [&] {
-        directory_->DeleteGroups(admin_, {{group.id, 1}});
+        directory_->DeleteGroups(admin_, {{group.id, 1}}, {});
       },
       [&] {
         directory_->DeleteDomain(admin_, {domain.id, 1}, {});

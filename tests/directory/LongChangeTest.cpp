@@ -38,6 +38,8 @@ class LongChangeTest : public DirectoryFixture {
 };
 
 TEST_F(LongChangeTest, ReportsProgressAndLeavesNothingWhenCancelled) {
+  const ObjectId everybody = AddGroup(source_.id, "Everybody").id;
+  ChangeMember(Membership::GroupMembers, everybody, users_, {});
   const std::string before = State();
   std::vector<ObjectVersion> all;
   for (ObjectId id : users_) all.push_back({id, 1});
@@ -46,6 +48,11 @@ TEST_F(LongChangeTest, ReportsProgressAndLeavesNothingWhenCancelled) {
     std::function<void(const Progress&)> run;
   } const cases[] = {
       {"delete users", [&](const Progress& p) { directory_->DeleteUsers(admin_, all, p); }},
+      {"delete groups",
+       [&](const Progress& p) {
+         directory_->DeleteGroups(
+             admin_, {Now(Membership::GroupMembers, everybody), Now(Membership::GroupMembers, group_.id)}, p);
+       }},
       {"copy",
        [&](const Progress& p) {
          directory_->CreateDomain(admin_, {.name = "Copy"}, {source_.id, true, true, true}, p);
@@ -94,6 +101,14 @@ TEST_F(LongChangeTest, ReportsProgressAndLeavesNothingWhenCancelled) {
   }
   EXPECT_EQ(directory_->Check(), std::vector<std::string>());
   std::int64_t last = 0;
+  directory_->DeleteGroups(admin_, {Now(Membership::GroupMembers, everybody)},
+                           [&](std::int64_t done, std::int64_t) {
+                             last = done;
+                             return true;
+                           });
+  EXPECT_EQ(last, kUsers + 1) << "the group and its members";
+  EXPECT_EQ(Journal(1).at(0).action, "delete");
+  EXPECT_EQ(directory_->Info().groupMembers, kUsers / 2);
   directory_->DeleteUsers(admin_, all, [&](std::int64_t done, std::int64_t) {
     last = done;
     return true;

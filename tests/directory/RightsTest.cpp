@@ -129,7 +129,7 @@ std::vector<Operation> RightsTest::Operations() {
       {"delete group", ChangeDomains, ManageDomainGroups,
        [this] {
          auto record = AddGroup(domain_.id, NewName());
-         directory_->DeleteGroups(session_, {{record.id, record.version}});
+         directory_->DeleteGroups(session_, {{record.id, record.version}}, {});
        }},
       {"create style", ManageStyles, 0, [this] { directory_->CreateStyle(session_, {.name = NewName()}); }},
       {"change style", ManageStyles, 0,

@@ -1,5 +1,8 @@
 #include "backend/directory/store/DomainRemover.h"
 
+#include "backend/directory/store/ProgressSteps.h"
+#include "backend/directory/store/SlicedRemoval.h"
+
 namespace mindloft {
 
 void DomainRemover::Remove(ObjectId domain, JsonObject& before, const Progress& progress) {
@@ -22,17 +25,11 @@ void DomainRemover::Remove(ObjectId domain, JsonObject& before, const Progress& 
 
   ProgressSteps steps(progress, total);
   for (const auto& group : groups) {
-    RemoveInSlices(
-        "DELETE FROM group_member WHERE grp = ?1 AND user IN "
-        "(SELECT user FROM group_member WHERE grp = ?1 ORDER BY user LIMIT ?2)",
-        group.id, steps);
+    RemoveGroupMembers(database_, group.id, steps);
     database_.Prepare("DELETE FROM grp WHERE id = ?")->BindAll(group.id).Run();
     steps.Done(1);
   }
-  RemoveInSlices(
-      "DELETE FROM domain_user WHERE domain = ?1 AND user IN "
-      "(SELECT user FROM domain_user WHERE domain = ?1 ORDER BY user LIMIT ?2)",
-      domain, steps);
+  RemoveDomainUsers(database_, domain, steps);
   database_.Prepare("DELETE FROM domain WHERE id = ?")->BindAll(domain).Run();
   steps.Done(1);
 }
@@ -45,15 +42,6 @@ std::vector<DomainRemover::Group> DomainRemover::Groups(ObjectId domain) {
   row->BindAll(domain);
   while (row->Step()) groups.push_back({row->Int(0), row->Text(1), row->Int(2)});
   return groups;
-}
-
-void DomainRemover::RemoveInSlices(const char* sql, ObjectId owner, ProgressSteps& steps) {
-  for (;;) {
-    database_.Prepare(sql)->BindAll(owner, ProgressSteps::kStep).Run();
-    std::int64_t removed = database_.Changes();
-    if (removed == 0) return;
-    steps.Done(removed);
-  }
 }
 
 }  // namespace mindloft

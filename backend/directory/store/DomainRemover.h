@@ -1,8 +1,8 @@
 #pragma once
 
+#include "backend/directory/Changes.h"
 #include "backend/directory/sqlite/Database.h"
 #include "backend/directory/store/JsonObject.h"
-#include "backend/directory/store/ProgressSteps.h"
 
 namespace mindloft {
 
@@ -20,7 +20,6 @@ class DomainRemover {
     std::int64_t members;
   };
   std::vector<Group> Groups(ObjectId domain);
-  void RemoveInSlices(const char* sql, ObjectId owner, ProgressSteps& steps);
 
   sqlite::Database& database_;
 };

@@ -2,6 +2,7 @@
 
 #include "backend/directory/store/NameKeys.h"
 #include "backend/directory/store/RecordReader.h"
+#include "backend/directory/store/SlicedRemoval.h"
 #include "backend/directory/store/TextRules.h"
 
 namespace mindloft {
@@ -135,25 +136,41 @@ GroupRecord GroupStore::Change(const Caller& caller, const GroupChange& change) 
   return group;
 }
 
-void GroupStore::Delete(const Caller& caller, const std::vector<ObjectVersion>& groups) {
+void GroupStore::Delete(const Caller& caller, const std::vector<ObjectVersion>& groups,
+                        const Progress& progress) {
+  std::int64_t rows = std::ssize(groups);
+  for (const auto& group : groups) rows += CountMembers(group.id);
+  ProgressSteps steps(progress, rows);
   for (const auto& group : groups) {
-    GroupRecord stored = Existing(Find(group.id), "group", group.id);
+    const GroupRecord stored = Existing(Find(group.id), "group", group.id);
     parts_.rights.RequireInDomain(caller, stored.domain, ManageDomainGroups);
     Require(group);
     if (stored.builtIn) throw Error(ErrorNumber::BuiltInObject, {}, {stored.name});
-    JsonObject before = Fields(stored);
-    std::vector<std::pair<ObjectId, std::string>> members;
-    {
-      auto row = parts_.database.Prepare(
-          "SELECT u.id, u.name FROM group_member m JOIN user u ON u.id = m.user WHERE m.grp = ?");
-      row->BindAll(stored.id);
-      while (row->Step()) members.emplace_back(row->Int(0), row->Text(1));
-    }
-    before.Add("members", members);
-    parts_.database.Prepare("DELETE FROM group_member WHERE grp = ?")->BindAll(stored.id).Run();
-    parts_.database.Prepare("DELETE FROM grp WHERE id = ?")->BindAll(stored.id).Run();
-    parts_.journal.Write(caller.name, "delete", SubjectOf(stored), before);
+    DeleteOne(caller, stored, steps);
   }
+}
+
+std::int64_t GroupStore::CountMembers(ObjectId group) {
+  auto row = parts_.database.Prepare("SELECT count(*) FROM group_member WHERE grp = ?");
+  row->BindAll(group);
+  row->Step();
+  return row->Int(0);
+}
+
+void GroupStore::DeleteOne(const Caller& caller, const GroupRecord& group, ProgressSteps& steps) {
+  JsonObject before = Fields(group);
+  std::vector<std::pair<ObjectId, std::string>> members;
+  {
+    auto row = parts_.database.Prepare(
+        "SELECT u.id, u.name FROM group_member m JOIN user u ON u.id = m.user WHERE m.grp = ?");
+    row->BindAll(group.id);
+    while (row->Step()) members.emplace_back(row->Int(0), row->Text(1));
+  }
+  before.Add("members", members);
+  RemoveGroupMembers(parts_.database, group.id, steps);
+  parts_.database.Prepare("DELETE FROM grp WHERE id = ?")->BindAll(group.id).Run();
+  parts_.journal.Write(caller.name, "delete", SubjectOf(group), before);
+  steps.Done(1);
 }
 
 }  // namespace mindloft

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "backend/directory/store/ProgressSteps.h"
 #include "backend/directory/store/StoreParts.h"
 
 namespace mindloft {
@@ -20,7 +21,7 @@ class GroupStore {
   /// A built-in group keeps its name, the administrators group also its privileges; a group that cannot be
   /// edited keeps everything: BuiltInObject.
   GroupRecord Change(const Caller& caller, const GroupChange& change);
-  void Delete(const Caller& caller, const std::vector<ObjectVersion>& groups);
+  void Delete(const Caller& caller, const std::vector<ObjectVersion>& groups, const Progress& progress);
 
   /// Stores a group whose rights and texts have been checked; no journal row. Returns its id.
   ObjectId Insert(const GroupRecord& group);
@@ -28,6 +29,9 @@ class GroupStore {
   GroupRecord Require(const ObjectVersion& group);
 
  private:
+  std::int64_t CountMembers(ObjectId group);
+  void DeleteOne(const Caller& caller, const GroupRecord& group, ProgressSteps& steps);
+
   StoreParts parts_;
 };
 

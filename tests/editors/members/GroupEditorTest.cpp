@@ -421,7 +421,7 @@ TEST_F(GroupConflictTest, AGroupThatIsGoneIsTold) {
     Select(user, {"anna"});
     user.Click("cmdRemove");
     const auto theirs = Theirs();
-    other_->Domain(domainId_)->DGroups()->Delete({{theirs->Stored().id, theirs->Stored().version}});
+    other_->Domain(domainId_)->DGroups()->Delete({{theirs->Stored().id, theirs->Stored().version}}, {});
     modal.ExpectForm("frmErrorManager", [](User& error) { error.Click("cmdOK"); });
     user.Click("cmdApply");
     EXPECT_TRUE(user.IsEnabled("cmdApply"));
