@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::int64_t kPage = 50;
 constexpr int kRandomPages = 200;  // for each order, direction and filter
+constexpr std::size_t kUsersAtOnce = 2000;
 
 /// A page with its rows read, as a window reads it.
 void ReadPage(sqlite::Database& database, UserIndex& index, const Query& query, std::int64_t first) {
@@ -98,7 +99,7 @@ void MeasureOrders(sqlite::Database& database, UserIndex& index, Report& report)
 
 void MeasureLookups(UserIndex& index, Report& report) {
   std::mt19937 random(11);
-  std::vector<double> prefixes, positions;
+  std::vector<double> prefixes, positions, many;
   for (std::string filter : {"", "a"}) {
     for (Order order : kOrders) {
       Query query{.order = order, .filter = filter};
@@ -110,10 +111,15 @@ void MeasureLookups(UserIndex& index, Report& report) {
         prefixes.push_back(Milliseconds([&] { index.FindPrefix(query, start, 0); }));
         positions.push_back(Milliseconds([&] { index.PositionOf(query, user); }));
       }
+      std::vector<ObjectId> users(kUsersAtOnce);
+      for (ObjectId& user : users)
+        user = static_cast<ObjectId>(random() % static_cast<std::uint64_t>(count)) + 1;
+      many.push_back(Milliseconds([&] { index.PositionsOf(query, users); }));
     }
   }
   report.AtMost("typing jumps to a row: 99 of 100 within", Percentile(prefixes, 0.99), 5, "ms");
   report.AtMost("position of a user: 99 of 100 within", Percentile(positions, 0.99), 5, "ms");
+  report.AtMost("positions of 2,000 users at once: slowest", Percentile(many, 1), 100, "ms");
 }
 
 void MeasureScopes(UserIndex& index, Report& report) {

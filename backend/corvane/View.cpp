@@ -54,6 +54,11 @@ std::int64_t View<Record>::PositionOf(ObjectId id) const {
   return session_->Door().PositionOf(session_->id, query_, id);
 }
 
+template <typename Record>
+std::vector<std::int64_t> View<Record>::PositionsOf(const std::vector<ObjectId>& ids) const {
+  return session_->Door().PositionsOf(session_->id, query_, ids);
+}
+
 template class View<UserRecord>;
 template class View<RoleRecord>;
 template class View<DomainRecord>;

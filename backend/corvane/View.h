@@ -32,6 +32,7 @@ class View {
   /// See Directory::FindPrefix and Directory::PositionOf.
   std::int64_t FindPrefix(const std::string& prefix, std::int64_t from) const;
   std::int64_t PositionOf(ObjectId id) const;
+  std::vector<std::int64_t> PositionsOf(const std::vector<ObjectId>& ids) const;
 
  private:
   std::shared_ptr<Session> session_;

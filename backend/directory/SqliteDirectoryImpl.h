@@ -53,6 +53,8 @@ class SqliteDirectoryImpl final : public SqliteDirectory {
   std::int64_t FindPrefix(SessionId session, const Query& query, std::string_view prefix,
                           std::int64_t from) override;
   std::int64_t PositionOf(SessionId session, const Query& query, ObjectId object) override;
+  std::vector<std::int64_t> PositionsOf(SessionId session, const Query& query,
+                                        const std::vector<ObjectId>& objects) override;
   bool Contains(SessionId session, Collection collection, ObjectId scope, ObjectId object) override;
   std::vector<ObjectVersion> VersionsIn(SessionId session, Collection collection, ObjectId scope,
                                         const std::vector<ObjectId>& objects) override;

@@ -92,6 +92,21 @@ std::int64_t SqliteDirectoryImpl::PositionOf(SessionId session, const Query& que
   });
 }
 
+std::vector<std::int64_t> SqliteDirectoryImpl::PositionsOf(SessionId session, const Query& query,
+                                                           const std::vector<ObjectId>& objects) {
+  return Read(session, [&](const Caller& caller) {
+    RequireReadable(caller, query.collection);
+    const RecordKind kind = KindOf(query.collection);
+    if (kind == RecordKind::User) return index_.PositionsOf(query, objects, caller.rules);
+    if (kind != RecordKind::Journal || !query.filter.empty())
+      return windows_.PositionsOf(query, objects, caller.rules);
+    std::vector<std::int64_t> positions;
+    positions.reserve(objects.size());
+    for (const ObjectId object : objects) positions.push_back(journal_.PositionOf(object));
+    return positions;
+  });
+}
+
 bool SqliteDirectoryImpl::Contains(SessionId session, Collection collection, ObjectId scope,
                                    ObjectId object) {
   return Read(session, [&](const Caller& caller) {

@@ -35,6 +35,13 @@ class ExplorerRows {
   virtual std::int64_t FindPrefix(const wxString& prefix, std::int64_t from) = 0;
   /// Position of the row of that key; -1 when it is not listed.
   virtual std::int64_t PositionOf(const wxString& key) = 0;
+  /// The same for many rows, in the given order; to be overridden where one question is quicker than many.
+  virtual std::vector<std::int64_t> PositionsOf(const std::vector<wxString>& keys) {
+    std::vector<std::int64_t> positions;
+    positions.reserve(keys.size());
+    for (const wxString& key : keys) positions.push_back(PositionOf(key));
+    return positions;
+  }
 };
 
 }  // namespace mindloft

@@ -68,4 +68,9 @@ std::int64_t GuardedRows::PositionOf(const wxString& key) {
   return Ask(std::int64_t{-1}, [&](ExplorerRows& rows) { return rows.PositionOf(key); });
 }
 
+std::vector<std::int64_t> GuardedRows::PositionsOf(const std::vector<wxString>& keys) {
+  return Ask(std::vector<std::int64_t>(keys.size(), -1),
+             [&](ExplorerRows& rows) { return rows.PositionsOf(keys); });
+}
+
 }  // namespace mindloft

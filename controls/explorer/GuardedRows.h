@@ -27,6 +27,7 @@ class GuardedRows : public ExplorerRows {
   void Filter(const wxString& text) override;
   std::int64_t FindPrefix(const wxString& prefix, std::int64_t from) override;
   std::int64_t PositionOf(const wxString& key) override;
+  std::vector<std::int64_t> PositionsOf(const std::vector<wxString>& keys) override;
 
   /// Called once for a failure, within the failing call: it must not show anything at once.
   std::function<void(std::exception_ptr)> onFailure;

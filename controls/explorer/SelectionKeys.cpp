@@ -67,13 +67,13 @@ bool SelectionKeys::Restore(SelectionModel& selection, ExplorerRows& rows, std::
   const std::size_t sought = known.size();
   RowRanges next;
   if (!allStay && !overflow_ && (!complement_ || sameRows)) {
-    std::vector<std::int64_t> positions;
-    for (KeyedRow& keyed : known) {
-      const std::int64_t position = rows.PositionOf(keyed.second);
-      if (position < 0) continue;
-      positions.push_back(position);
-      keys_.emplace_back(position, std::move(keyed.second));
-    }
+    std::vector<wxString> keys;
+    keys.reserve(sought);
+    for (KeyedRow& keyed : known) keys.push_back(std::move(keyed.second));
+    std::vector<std::int64_t> positions = rows.PositionsOf(keys);
+    for (std::size_t i = 0; i < sought; ++i)
+      if (positions[i] >= 0) keys_.emplace_back(positions[i], std::move(keys[i]));
+    std::erase_if(positions, [](std::int64_t position) { return position < 0; });
     std::sort(keys_.begin(), keys_.end());
     next = RowRanges::FromRows(std::move(positions));
   }

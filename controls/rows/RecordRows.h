@@ -59,6 +59,12 @@ class RecordRows : public ExplorerRows {
   std::int64_t PositionOf(const wxString& key) override {
     return view_.PositionOf(Corvane::IdFromText(ToUtf8(key)));
   }
+  std::vector<std::int64_t> PositionsOf(const std::vector<wxString>& keys) override {
+    std::vector<ObjectId> ids;
+    ids.reserve(keys.size());
+    for (const wxString& key : keys) ids.push_back(Corvane::IdFromText(ToUtf8(key)));
+    return view_.PositionsOf(ids);
+  }
 
  protected:
   /// `orders`: the order of each column; none where the directory offers none.

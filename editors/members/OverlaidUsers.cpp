@@ -8,8 +8,6 @@ namespace {
 
 /// Rows that are read at a time.
 constexpr std::int64_t kReadRows = 1024;
-/// Rows that are read from one page to the other in the time that asking for the place of one row takes.
-constexpr std::int64_t kRowsPerQuestion = 10;
 
 }  // namespace
 
@@ -31,29 +29,12 @@ void OverlaidUsers::FindHidden() {
   hiddenStale_ = false;
   hidden_.clear();
   if (items_.Empty()) return;
-  const std::int64_t count = stored_->Count();
-  if (static_cast<std::int64_t>(items_.Count()) * kRowsPerQuestion < count)
-    SearchHidden();
-  else
-    ScanForHidden(count);
-}
-
-void OverlaidUsers::SearchHidden() {
-  for (const auto& item : items_) {
-    const std::int64_t place = stored_->PositionOf(item.Id());
-    if (place >= 0) hidden_.push_back(place);
-  }
+  std::vector<wxString> users;
+  users.reserve(items_.Count());
+  for (const auto& item : items_) users.push_back(item.Id());
+  hidden_ = stored_->PositionsOf(users);
+  std::erase(hidden_, -1);
   std::sort(hidden_.begin(), hidden_.end());
-}
-
-void OverlaidUsers::ScanForHidden(std::int64_t count) {
-  for (std::int64_t first = 0; first < count; first += kReadRows) {
-    std::int64_t place = first;
-    for (const auto& row : stored_->Page(first, kReadRows)) {
-      if (items_.Find(row.key)) hidden_.push_back(place);
-      ++place;
-    }
-  }
 }
 
 bool OverlaidUsers::IsHidden(std::int64_t place) const {
@@ -152,7 +133,20 @@ std::int64_t OverlaidUsers::PositionOf(const wxString& key) {
   const std::int64_t coming = first_.PositionOf(key);
   if (coming >= 0) return coming;
   NeedHidden();
-  const std::int64_t place = stored_->PositionOf(key);
+  return ShownOf(stored_->PositionOf(key));
+}
+
+std::vector<std::int64_t> OverlaidUsers::PositionsOf(const std::vector<wxString>& keys) {
+  NeedHidden();
+  std::vector<std::int64_t> positions = stored_->PositionsOf(keys);
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const std::int64_t coming = first_.PositionOf(keys[i]);
+    positions[i] = coming >= 0 ? coming : ShownOf(positions[i]);
+  }
+  return positions;
+}
+
+std::int64_t OverlaidUsers::ShownOf(std::int64_t place) const {
   return place < 0 || IsHidden(place) ? -1 : first_.Count() + ShownBefore(place);
 }
 

@@ -28,17 +28,18 @@ class OverlaidUsers : public ExplorerRows {
   void Filter(const wxString& text) override;
   std::int64_t FindPrefix(const wxString& prefix, std::int64_t from) override;
   std::int64_t PositionOf(const wxString& key) override;
+  std::vector<std::int64_t> PositionsOf(const std::vector<wxString>& keys) override;
 
  private:
   void FindHidden();
   void NeedHidden() {
     if (hiddenStale_) FindHidden();
   }
-  void SearchHidden();
-  void ScanForHidden(std::int64_t count);
   bool IsHidden(std::int64_t place) const;
   /// The first place of a stored user, at or behind one, who is not left out.
   std::int64_t NextShown(std::int64_t place) const;
+  /// The number of the stored user at that place; -1 when he is left out, or the place is -1.
+  std::int64_t ShownOf(std::int64_t place) const;
   /// From the number of a shown stored user to the place among all stored ones, and back.
   std::int64_t PlaceOf(std::int64_t shown) const;
   std::int64_t ShownBefore(std::int64_t place) const;

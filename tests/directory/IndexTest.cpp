@@ -190,6 +190,14 @@ class IndexTest : public testing::Test {
     const auto user = AnyUser();
     const auto at = std::find(rows.begin(), rows.end(), user);
     EXPECT_EQ(index.PositionOf(query, user, rules), at == rows.end() ? -1 : at - rows.begin());
+    std::vector<ObjectId> asked = {0, ObjectId{1} << 40};
+    std::vector<std::int64_t> places = {-1, -1};
+    for (const auto& each : model_.users) {
+      asked.push_back(each.first);
+      const auto place = std::find(rows.begin(), rows.end(), each.first);
+      places.push_back(place == rows.end() ? -1 : place - rows.begin());
+    }
+    EXPECT_EQ(index.PositionsOf(query, asked, rules), places);
   }
 
   test::TemporaryFolder folder_;

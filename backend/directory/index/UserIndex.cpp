@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_map>
 #include <utility>
 
 #include "backend/directory/index/IndexCheck.h"
@@ -69,6 +70,13 @@ struct UserIndex::Impl {
 
 namespace {
 
+/// Looking a user up costs about as much as walking over some ten thousand.
+constexpr std::int64_t kWorthWalking = 50;
+
+bool IsPacked(ObjectId user) {
+  return user > 0 && user <= ObjectId{UINT32_MAX};
+}
+
 /// One query on the users as the rules of a language sort them.
 class Reading {
  public:
@@ -91,6 +99,19 @@ class Reading {
     return selection_ ? selection_->CountBefore(order_, query_.order, place) : order_.CountBefore(place);
   }
   std::string Folded(std::string_view text) const { return FoldedText(text, folding_); }
+  /// The positions, ascending, of all users of a set, found in one walk over the order.
+  std::unordered_map<PackedId, std::int64_t> PositionsOf(const IdSet& users) {
+    std::unordered_map<PackedId, std::int64_t> positions;
+    std::int64_t position = 0;
+    for (std::size_t block = 0; block < order_.Blocks().size(); ++block) {
+      for (const PackedId id : order_.Ids(block)) {
+        if (!Has(id)) continue;
+        if (users.Has(id)) positions.emplace(id, position);
+        ++position;
+      }
+    }
+    return positions;
+  }
 
  private:
   const Query& query_;
@@ -239,17 +260,37 @@ std::int64_t UserIndex::FindPrefix(const Query& query, std::string_view prefix, 
 }
 
 std::int64_t UserIndex::PositionOf(const Query& query, ObjectId user, LanguageRules rules) {
+  return PositionsOf(query, {user}, rules).front();
+}
+
+std::vector<std::int64_t> UserIndex::PositionsOf(const Query& query, const std::vector<ObjectId>& users,
+                                                 LanguageRules rules) {
   sqlite::Snapshot snapshot(impl_->database);
-  auto& users = impl_->Current(rules);
-  if (user <= 0 || user > ObjectId{UINT32_MAX}) return -1;
-  const auto id = static_cast<PackedId>(user);
-  Reading reading(users, query, rules);
-  if (!reading.Has(id)) return -1;
-  auto folded = users.Texts().Find(id);
-  if (!folded) return -1;
-  auto place = reading.Users().PlaceOf(id, folded->keys[PlaceOf(query.order)]);
-  auto position = reading.PositionAt(place);
-  return query.descending ? reading.Count() - 1 - position : position;
+  auto& sorted = impl_->Current(rules);
+  Reading reading(sorted, query, rules);
+  IdSet listed;
+  for (const ObjectId user : users)
+    if (IsPacked(user) && reading.Has(static_cast<PackedId>(user))) listed.Add(static_cast<PackedId>(user));
+  std::unordered_map<PackedId, std::int64_t> walked;
+  const bool walk = std::ssize(users) >= kWorthWalking;
+  if (walk) walked = reading.PositionsOf(listed);
+  const auto positionOf = [&](PackedId id) -> std::int64_t {
+    if (!listed.Has(id)) return -1;
+    if (walk) {
+      const auto found = walked.find(id);
+      return found == walked.end() ? -1 : found->second;
+    }
+    const auto folded = sorted.Texts().Find(id);
+    return folded ? reading.PositionAt(reading.Users().PlaceOf(id, folded->keys[PlaceOf(query.order)])) : -1;
+  };
+  const std::int64_t last = query.descending ? reading.Count() - 1 : 0;
+  std::vector<std::int64_t> positions;
+  positions.reserve(users.size());
+  for (const ObjectId user : users) {
+    const std::int64_t position = IsPacked(user) ? positionOf(static_cast<PackedId>(user)) : -1;
+    positions.push_back(position >= 0 && query.descending ? last - position : position);
+  }
+  return positions;
 }
 
 }  // namespace mindloft

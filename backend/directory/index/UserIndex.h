@@ -73,6 +73,9 @@ class UserIndex {
   std::int64_t FindPrefix(const Query& query, std::string_view prefix, std::int64_t from,
                           LanguageRules rules = LanguageRules::Neutral);
   std::int64_t PositionOf(const Query& query, ObjectId user, LanguageRules rules = LanguageRules::Neutral);
+  /// The same for many users at once.
+  std::vector<std::int64_t> PositionsOf(const Query& query, const std::vector<ObjectId>& users,
+                                        LanguageRules rules = LanguageRules::Neutral);
 
  private:
   struct Impl;

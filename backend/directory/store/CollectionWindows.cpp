@@ -1,6 +1,7 @@
 #include "backend/directory/store/CollectionWindows.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "backend/directory/FoldedText.h"
 #include "backend/directory/collation/Collator.h"
@@ -137,6 +138,20 @@ std::int64_t CollectionWindows::PositionOf(const Query& query, ObjectId object, 
   const auto& rows = Get(query, rules).rows;
   auto found = std::ranges::find(rows, object, &Row::id);
   return found == rows.end() ? -1 : found - rows.begin();
+}
+
+std::vector<std::int64_t> CollectionWindows::PositionsOf(const Query& query,
+                                                         const std::vector<ObjectId>& objects,
+                                                         LanguageRules rules) {
+  std::unordered_map<ObjectId, std::int64_t> places;
+  for (const auto& row : Get(query, rules).rows) places.emplace(row.id, std::ssize(places));
+  std::vector<std::int64_t> positions;
+  positions.reserve(objects.size());
+  for (const ObjectId object : objects) {
+    const auto found = places.find(object);
+    positions.push_back(found == places.end() ? -1 : found->second);
+  }
+  return positions;
 }
 
 }  // namespace mindloft

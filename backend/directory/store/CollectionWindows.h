@@ -24,6 +24,8 @@ class CollectionWindows {
   std::int64_t FindPrefix(const Query& query, std::string_view prefix, std::int64_t from,
                           LanguageRules rules);
   std::int64_t PositionOf(const Query& query, ObjectId object, LanguageRules rules);
+  std::vector<std::int64_t> PositionsOf(const Query& query, const std::vector<ObjectId>& objects,
+                                        LanguageRules rules);
 
  private:
   struct Row {

@@ -59,12 +59,15 @@ TEST_F(OverlaidUsersTest, ShowsWhoComesBeforeWhoStays) {
         const int from = below(static_cast<int>(count) + 1);
         const auto part = Keys(shown.Page(from, 7));
         ASSERT_TRUE(std::equal(part.begin(), part.end(), expected.begin() + from));
-        for (std::int64_t i = 0; i < count; ++i)
-          ASSERT_EQ(shown.PositionOf(expected[static_cast<std::size_t>(i)]), i);
-        for (const auto& item : items) {
-          if (item.Statu() == ToBeRemoved) {
-            ASSERT_EQ(shown.PositionOf(item.Id()), -1);
-          }
+        auto asked = expected;
+        for (const auto& item : items)
+          if (item.Statu() == ToBeRemoved) asked.push_back(item.Id());
+        const auto positions = shown.PositionsOf(asked);
+        ASSERT_EQ(positions.size(), asked.size());
+        for (std::int64_t i = 0; i < std::ssize(asked); ++i) {
+          const auto place = static_cast<std::size_t>(i);
+          ASSERT_EQ(positions[place], i < count ? i : -1);
+          ASSERT_EQ(shown.PositionOf(asked[place]), positions[place]);
         }
 
         const wxString prefix = column == 0 ? wxString::Format("%c0", 'a' + below(4)) : wxString("full 5");
