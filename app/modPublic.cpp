@@ -5,6 +5,7 @@
 #include "backend/tessaline/Text.h"
 #include "core/ErrorHandling.h"
 #include "core/modShare.h"
+#include "editors/SessionLanguage.h"
 #include "mainwindow/CommandLineState.h"
 #include "platform/Paths.h"
 #include "platform/Shell.h"
@@ -46,6 +47,7 @@ void Main(const wxString& commandLine, const StartServices& services) try {
     Shutdown();
     return;
   }
+  SetSessionLanguage();
   services.showMainWindow();
 } catch (...) {
   Raise("modPublic", "Main");

@@ -8,6 +8,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
+#include "core/ErrorText.h"
 #include "core/frmErrorManager.h"
 
 namespace mindloft {
@@ -49,18 +50,6 @@ wxString FieldName(const std::string& field) {
   return name == names.end() ? ToWx(field) : GetResource().GetString(name->second);
 }
 
-/// The numbered text with the error's parameters: what the user reads first.
-wxString UserText(const Error& error) {
-  int number = static_cast<int>(error.Number());
-  std::vector<wxString> parameters;
-  for (const auto& parameter : error.Parameters()) parameters.push_back(ToWx(parameter));
-  const bool tellsField =
-      error.Number() == ErrorNumber::TextTooLong || error.Number() == ErrorNumber::TextInvalid;
-  if (tellsField && !parameters.empty()) parameters.front() = FieldName(error.Parameters().front());
-  return GetResource().GetFormatString(
-      IsApplicationError(error.Number()) ? number : systemErrorTexts + number, parameters);
-}
-
 /// The user's text, then each part of the description on a line of its own.
 wxString MoreInformation(const wxString& userText, const Error& error) {
   wxString text = userText;
@@ -77,7 +66,7 @@ void ShowInDialog(const Error& error) {
   const MessageKind kind = GetUtility().ErrorKind(error.Number());
   const wxString number = wxString::Format("%d", static_cast<int>(error.Number()));
   const auto texts = [&] {
-    const wxString userText = UserText(error);
+    const wxString userText = TextOf(error);
     return frmErrorManager::Texts{GetResource().GetString(TitleOf(kind)) + " ('" + number + "')", userText,
                                   MoreInformation(userText, error)};
   };
@@ -111,6 +100,17 @@ void Show(const Error& error) noexcept {
 }
 
 }  // namespace
+
+wxString TextOf(const Error& error) {
+  int number = static_cast<int>(error.Number());
+  std::vector<wxString> parameters;
+  for (const auto& parameter : error.Parameters()) parameters.push_back(ToWx(parameter));
+  const bool tellsField =
+      error.Number() == ErrorNumber::TextTooLong || error.Number() == ErrorNumber::TextInvalid;
+  if (tellsField && !parameters.empty()) parameters.front() = FieldName(error.Parameters().front());
+  return GetResource().GetFormatString(
+      IsApplicationError(error.Number()) ? number : systemErrorTexts + number, parameters);
+}
 
 void Raise(const char* objectName, const char* procedureName) {
   throw Reported(objectName, procedureName);

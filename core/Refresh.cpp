@@ -43,6 +43,10 @@ Refresh::Subscription Refresh::OnNotifyLanguage(LanguageHandler handler) {
   return Subscribe(languageHandlers_, std::move(handler));
 }
 
+Refresh::Subscription Refresh::BeforeNotifyLanguage(LanguageHandler handler) {
+  return Subscribe(firstLanguageHandlers_, std::move(handler));
+}
+
 void Refresh::Notify(std::int32_t kind, std::int32_t action, std::any object) try {
   if (enabled_) RaiseEvent(notifyHandlers_, kind, action, object);
 } catch (...) {
@@ -54,7 +58,10 @@ void Refresh::Notify(ObjectKind kind, ObjectAction action, std::any object) {
 }
 
 void Refresh::NotifyLanguage() try {
-  if (enabled_) RaiseEvent(languageHandlers_);
+  if (!enabled_) return;
+  auto all = firstLanguageHandlers_;
+  all.insert(all.end(), languageHandlers_.begin(), languageHandlers_.end());
+  RaiseEvent(all);
 } catch (...) {
   Raise("Refresh", "NotifyLanguage");
 }

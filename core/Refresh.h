@@ -27,6 +27,9 @@ class Refresh {
 
   [[nodiscard]] Subscription OnNotify(NotifyHandler handler);
   [[nodiscard]] Subscription OnNotifyLanguage(LanguageHandler handler);
+  /// For what all windows show depends on, so that they show it right at once: hears of a language before the
+  /// listeners of OnNotifyLanguage.
+  [[nodiscard]] Subscription BeforeNotifyLanguage(LanguageHandler handler);
 
   void Notify(std::int32_t kind, std::int32_t action, std::any object);
   void Notify(ObjectKind kind, ObjectAction action, std::any object);
@@ -38,7 +41,7 @@ class Refresh {
  private:
   bool enabled_ = true;
   std::list<std::weak_ptr<NotifyHandler>> notifyHandlers_;
-  std::list<std::weak_ptr<LanguageHandler>> languageHandlers_;
+  std::list<std::weak_ptr<LanguageHandler>> languageHandlers_, firstLanguageHandlers_;
 };
 
 /// The shared instance, created on the first call.

@@ -82,13 +82,6 @@ void DirectoryTree::RemoveDomain(const wxString& key) {
   if (index >= 0) area_.Explorer().RemoveTreeNode(index);
 }
 
-void DirectoryTree::ReloadCaptions() {
-  const int count = area_.Explorer().TreeNodeCount();
-  for (int index = 0; index < count; ++index)
-    if (!IsDomain(index))
-      area_.Explorer().SetTreeNodeText(index, Caption(area_.Explorer().TreeNodeKey(index)));
-}
-
 wxString DirectoryTree::KindKey(int index) const {
   return IsDomain(index) ? wxString(keys::kAnyDomain) : area_.Explorer().TreeNodeKey(index);
 }
@@ -143,6 +136,8 @@ DirectoryTree::State DirectoryTree::Remember() const {
     if (area_.Explorer().IsTreeNodeExpanded(index)) state.expanded.insert(Path(index));
   const int selected = area_.Explorer().SelectedTreeNode();
   if (selected >= 0) state.selected = Path(selected);
+  state.selectedShown = area_.Explorer().IsTreeNodeShown(selected);
+  state.top = Path(area_.Explorer().TopTreeNode());
   return state;
 }
 
@@ -152,6 +147,9 @@ void DirectoryTree::Restore(const State& state) {
     if (state.expanded.contains(Path(index))) area_.Explorer().ExpandTreeNode(index);
   const int selected = state.selected.empty() ? -1 : NodeAt(state.selected);
   if (selected >= 0) area_.Explorer().SelectTreeNode(selected);
+  if (state.top.empty()) return;
+  area_.Explorer().ScrollTreeTo(NodeAt(state.top));
+  if (state.selectedShown) area_.Explorer().SelectTreeNode(selected);
 }
 
 }  // namespace mindloft

@@ -33,8 +33,6 @@ class DirectoryTree {
   /// that among the domains.
   void UpdateDomain(const std::shared_ptr<Corvane::DomainContext>& context);
   void RemoveDomain(const wxString& key);
-  /// The captions of all fixed nodes in the current language.
-  void ReloadCaptions();
 
   /// The kind of a node, as the registry of kinds knows it: its fixed key, or keys::kAnyDomain.
   wxString KindKey(int index) const;
@@ -45,10 +43,12 @@ class DirectoryTree {
   int Child(int parent, const wxString& key) const;
   int DomainNode(const wxString& key) const;
 
-  /// Which nodes are open and which is selected, by the keys on the way to them.
+  /// Which nodes are open, which is selected and which is the topmost on the screen, by the keys on the way
+  /// to them.
   struct State {
     std::set<wxString> expanded;
-    wxString selected;
+    wxString selected, top;
+    bool selectedShown = false;  ///< it is on the screen
   };
   State Remember() const;
   /// Opens and selects what is still there; where the selected node is gone, its nearest parent.

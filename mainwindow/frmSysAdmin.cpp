@@ -13,6 +13,7 @@
 #include "core/forms/Form.h"
 #include "core/forms/Images.h"
 #include "core/modShare.h"
+#include "editors/SessionLanguage.h"
 #include "mainwindow/ApplicationServices.h"
 #include "mainwindow/BarMemory.h"
 #include "mainwindow/CommandLineState.h"
@@ -79,6 +80,7 @@ void frmSysAdmin::Form_Load(bool startWithNode) try {
   notify_ = refresh->OnNotify([this](auto& kind, auto& action, auto& object) {
     Guarded("frmSysAdmin", "Refresh_Notify", [&] { Refresh_Notify(kind, action, object); });
   });
+  beforeLanguage_ = refresh->BeforeNotifyLanguage(SetSessionLanguage);
   notifyLanguage_ = refresh->OnNotifyLanguage(
       [this] { Guarded("frmSysAdmin", "Refresh_NotifyLanguage", [&] { Refresh_NotifyLanguage(); }); });
   // Whose members have changed is in no list, but what the user may do can depend on it.
@@ -114,6 +116,7 @@ void frmSysAdmin::Form_Unload(wxCloseEvent& event) try {
   }
   timer1_.Stop();
   notify_.reset();
+  beforeLanguage_.reset();
   notifyLanguage_.reset();
   refreshView_.reset();
   area_->Disconnect();

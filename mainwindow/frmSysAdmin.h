@@ -104,8 +104,9 @@ class frmSysAdmin : public wxFrame {
   void ConnectCommands();
   /// Fills the tree from the domains read last.
   void BuildTree();
-  /// Shows everything in the direction and language of now, selection and list as they were.
-  void RebuildArea();
+  /// Shows everything in the language of now, selection and list as they were. `anew`: in another direction
+  /// too.
+  void RebuildArea(bool anew);
   /// Shows the selected node's list anew, arranged like that.
   void ReloadList(const ExplorerListState& state);
   void ShowPendingCounts();
@@ -127,7 +128,7 @@ class frmSysAdmin : public wxFrame {
   std::unique_ptr<MainToolBar> toolBar_;
   std::unique_ptr<MainStatusBar> statusBar_;
   std::unique_ptr<RefreshHandlers> refreshHandlers_;
-  Refresh::Subscription notify_, notifyLanguage_;
+  Refresh::Subscription notify_, beforeLanguage_, notifyLanguage_;
   std::shared_ptr<void> refreshView_;
   wxTimer timer1_;
   std::int32_t pendingNodeIndex_ = -1;

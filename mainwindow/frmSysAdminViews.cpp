@@ -23,32 +23,32 @@ namespace mindloft {
 
 void frmSysAdmin::LoadInfoOnForm() try {
   GetResource().LoadInfoOnForm(*this);
-  const bool mirrored = GetLayoutDirection() == wxLayout_RightToLeft;
-  if (GetMenuBar() && mirrored != GetResource().IsRightToLeft()) return RebuildArea();
-  Explorer().SetSearchHint(GetResource().GetString(texts::kSearchHint));
   // At start the parts below are not there yet; they are made in the current language.
-  if (!GetMenuBar()) return;
-  InitMenu();
-  tree_->ReloadCaptions();
-  ReloadList(Explorer().ListState());
-  ShowUser();
+  if (GetMenuBar())
+    RebuildArea((GetLayoutDirection() == wxLayout_RightToLeft) != GetResource().IsRightToLeft());
+  else
+    Explorer().SetSearchHint(GetResource().GetString(texts::kSearchHint));
 } catch (...) {
   mindloft::Raise("frmSysAdmin", "LoadInfoOnForm");
 }
 
-void frmSysAdmin::RebuildArea() {
+void frmSysAdmin::RebuildArea(bool anew) {
   const auto state = tree_->Remember();
   const auto list = Explorer().ListState();
   {
     const BusyFlag busy(busy_);
-    ApplyLayoutDirection(*this);
-    area_->Rebuild();
-    SpecifyBreakChar(Explorer());
+    if (anew) {
+      ApplyLayoutDirection(*this);
+      area_->Rebuild();
+      SpecifyBreakChar(Explorer());
+      ConnectExplorer();
+    }
     Explorer().SetSearchHint(GetResource().GetString(texts::kSearchHint));
     InitMenu();
-    ConnectExplorer();
-    tree_->BuildRoot();
-    tree_->DisplayTreeDomains();
+    // The names may have another order now. Where they cannot be read, the texts follow all the same.
+    Guarded("frmSysAdmin", "BuildTree", [this] { domains_->Read(); });
+    BuildRoot();
+    DisplayTreeDomains();
     tree_->Restore(state);
   }
   ReloadList(list);

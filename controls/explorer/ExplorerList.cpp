@@ -104,10 +104,22 @@ void ExplorerList::RestoreRows(std::int64_t count, SelectionKeys::Change change)
   if (changed && selectionChanged) selectionChanged();
 }
 
-void ExplorerList::RestoreSelection(const SelectionKeys& keys) {
+void ExplorerList::RestoreSelection(const SelectionKeys& keys, const ListPlace& place) {
   keys_ = keys;
   RestoreRows(selection_.RowCount(), SelectionKeys::Change::Contents);
-  if (selection_.Focus() >= 0) EnsureVisible(static_cast<long>(selection_.Focus()));
+  const std::int64_t row = place.key.empty() ? -1 : rows_.PositionOf(place.key);
+  if (row >= 0)
+    ScrollToTop(row - place.below);
+  else if (selection_.Focus() >= 0)
+    EnsureVisible(static_cast<long>(selection_.Focus()));
+}
+
+ListPlace ExplorerList::Place() const {
+  const std::int64_t top = TopRow(), focus = selection_.Focus();
+  const bool isFocusShown = focus >= top && focus < top + RowsPerPage();
+  const std::int64_t row = isFocusShown ? focus : top;
+  const ExplorerRow* shown = cache_.Peek(row);
+  return shown ? ListPlace{shown->key, row - top} : ListPlace();
 }
 
 void ExplorerList::ChangeSelection(const std::function<bool(SelectionModel&)>& action) {

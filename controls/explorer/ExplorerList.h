@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/explorer/ExplorerColumn.h"
+#include "controls/explorer/ExplorerListState.h"
 #include "controls/explorer/GuardedRows.h"
 #include "controls/explorer/RowCache.h"
 #include "controls/explorer/SelectionKeys.h"
@@ -37,8 +38,9 @@ class ExplorerList : public wxListCtrl {
   /// The rows have changed: their number, their order, or what they hold. Selection and focus stay with their
   /// rows; `selectionChanged` is called when the selected set became another one.
   void RestoreRows(std::int64_t count, SelectionKeys::Change change);
-  /// Selects and focuses the rows of those keys and scrolls to the focused one.
-  void RestoreSelection(const SelectionKeys& keys);
+  /// Selects and focuses the rows of those keys. The list is scrolled to the place, as far as its row is
+  /// still there, else to the focused row.
+  void RestoreSelection(const SelectionKeys& keys, const ListPlace& place);
   /// Changes the selection or focus by `action` (which answers whether the selected set changed), shows it,
   /// and scrolls the focused row into view.
   void ChangeSelection(const std::function<bool(SelectionModel&)>& action);
@@ -51,6 +53,8 @@ class ExplorerList : public wxListCtrl {
   bool IsOnCheckBox(std::int64_t row, wxWindow* window, const wxPoint& point) const;
 
   std::int64_t TopRow() const { return GetTopItem(); }
+  /// Told by the focused row where that is on the screen, else by the topmost.
+  ListPlace Place() const;
   /// Scrolls so that the row is the topmost, as far as the end of the list allows.
   void ScrollToTop(std::int64_t row);
   /// Rows that fit between the heading and the lower edge.

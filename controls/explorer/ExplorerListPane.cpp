@@ -154,13 +154,13 @@ void ExplorerListPane::ShowSearchText(const wxString& text) {
 }
 
 ExplorerListState ExplorerListPane::State() const {
-  return {filter_, sortColumn_, sortDescending_, list_->Keys()};
+  return {filter_, sortColumn_, sortDescending_, list_->Keys(), list_->Place()};
 }
 
 void ExplorerListPane::RestoreState(const ExplorerListState& state) {
   FilterBy(state.filter);
   SortBy(state.sortColumn, state.sortDescending);
-  list_->RestoreSelection(state.selection);
+  list_->RestoreSelection(state.selection, state.place);
 }
 
 void ExplorerListPane::FilterBy(const wxString& text) {

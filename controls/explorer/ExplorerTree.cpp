@@ -146,6 +146,18 @@ bool ExplorerTree::IsNodeExpanded(const TreeNode& node) const {
   return IsExpanded(ItemOf(node));
 }
 
+TreeNode* ExplorerTree::TopNode() const {
+  return nodes_.Count() > 0 ? NodeOf(GetFirstVisibleItem()) : nullptr;
+}
+
+void ExplorerTree::ScrollToTop(const TreeNode& node) {
+  wxTreeItemId last = GetRootItem();
+  while (IsExpanded(last) && GetChildrenCount(last, false) > 0) last = GetLastChild(last);
+  // Some desktops scroll no further than the node needs: from below, that is to the top.
+  ScrollTo(last);
+  ScrollTo(ItemOf(node));
+}
+
 void ExplorerTree::NoticeSelection() {
   if (changing_) return;
   TreeNode* selected = SelectedNode();

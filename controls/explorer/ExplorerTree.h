@@ -28,6 +28,12 @@ class ExplorerTree : public wxTreeCtrl {
   void SelectNode(TreeNode& node);
   void ExpandNode(TreeNode& node);
   bool IsNodeExpanded(const TreeNode& node) const;
+  /// Whether the node is on the screen, at least in part.
+  bool IsNodeShown(const TreeNode& node) const { return IsVisible(ItemOf(node)); }
+  /// The topmost node on the screen; nothing where there is none.
+  TreeNode* TopNode() const;
+  /// Scrolls so that the node is the topmost, as far as the end of the tree allows.
+  void ScrollToTop(const TreeNode& node);
   /// Nothing when no node is selected.
   TreeNode* SelectedNode() const;
 

@@ -57,6 +57,12 @@ class ctExplorer : public wxPanel {
   void SelectTreeNode(int index);
   void ExpandTreeNode(int index);
   bool IsTreeNodeExpanded(int index) const;
+  /// Whether it is on the screen.
+  bool IsTreeNodeShown(int index) const;
+  /// The topmost node on the screen; -1: none.
+  int TopTreeNode() const;
+  /// Scrolls so that the node is the topmost, as far as the end of the tree allows.
+  void ScrollTreeTo(int index);
 
   // List
   /// Drops rows and columns.
@@ -90,7 +96,8 @@ class ctExplorer : public wxPanel {
   bool SortDescending() const;
   void SetFilter(const wxString& text);
   wxString Filter() const;
-  /// The present filter, order and selection, and the same again for a list of the same columns.
+  /// The present filter, order, selection and scroll place, and the same again for a list of the same
+  /// columns.
   ExplorerListState ListState() const;
   void RestoreList(const ExplorerListState& state);
   /// Gives the rows check boxes. `isChecked` is asked whenever a row is drawn: it must be quick, ask no back

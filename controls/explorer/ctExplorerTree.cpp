@@ -88,4 +88,18 @@ bool ctExplorer::IsTreeNodeExpanded(int index) const {
   return node && impl_->tree->IsNodeExpanded(*node);
 }
 
+bool ctExplorer::IsTreeNodeShown(int index) const {
+  const TreeNode* node = impl_->Node(index);
+  return node && impl_->tree->IsNodeShown(*node);
+}
+
+int ctExplorer::TopTreeNode() const {
+  const TreeNode* node = impl_->tree ? impl_->tree->TopNode() : nullptr;
+  return node ? node->index : -1;
+}
+
+void ctExplorer::ScrollTreeTo(int index) {
+  if (const TreeNode* node = impl_->Node(index)) impl_->tree->ScrollToTop(*node);
+}
+
 }  // namespace mindloft

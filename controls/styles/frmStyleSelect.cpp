@@ -56,8 +56,8 @@ void frmStyleSelect::LoadInfoOnForm() try {
 
 void frmStyleSelect::Refresh_NotifyLanguage() try {
   LoadInfoOnForm();
-  // The sample text may be the language's.
-  ShowStyle(*usPreview, style_);
+  // The names may have another order, and the sample text may be the language's.
+  RebuildList();
 } catch (...) {
   ShowError("frmStyleSelect", "Refresh_NotifyLanguage");
 }

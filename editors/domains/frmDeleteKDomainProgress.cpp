@@ -1,7 +1,6 @@
 #include "editors/domains/frmDeleteKDomainProgress.h"
 
 #include <wx/button.h>
-#include <wx/evtloop.h>
 #include <wx/gauge.h>
 #include <wx/stattext.h>
 
@@ -41,6 +40,11 @@ frmDeleteKDomainProgress::frmDeleteKDomainProgress(wxWindow* owner, const wxStri
     cmdCancel_Click();
   });
   CentreOnParent();
+  if (!wxEventLoopBase::GetActive()) {
+    // At start nothing has handled events yet.
+    ownLoop_ = std::make_unique<wxGUIEventLoop>();
+    activeLoop_ = std::make_unique<wxEventLoopActivator>(ownLoop_.get());
+  }
   others_ = std::make_unique<platform::OthersDisabled>(this);
   wxDialog::Show();
   cmdCancel->SetFocus();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <wx/evtloop.h>
+
 #include <cstdint>
 #include <memory>
 
@@ -31,6 +33,8 @@ class frmDeleteKDomainProgress : public FormDialog {
   wxStaticText* lblRows = nullptr;
   wxGauge* prgRows = nullptr;
   wxButton* cmdCancel = nullptr;
+  std::unique_ptr<wxEventLoopBase> ownLoop_;
+  std::unique_ptr<wxEventLoopActivator> activeLoop_;
   std::unique_ptr<platform::OthersDisabled> others_;
   std::int64_t shownAt_ = 0;  ///< milliseconds
   bool cancelled_ = false;

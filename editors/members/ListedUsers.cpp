@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "backend/directory/FoldedText.h"
 #include "backend/tessaline/Text.h"
 #include "controls/rows/RecordRows.h"
 
@@ -20,31 +19,45 @@ ListedUsers::ListedUsers(std::vector<ExplorerRow> rows, Start start)
     : start_(start), sorted_(start == Start::Sorted) {
   entries_.reserve(rows.size());
   for (auto& row : rows) {
-    Entry entry{std::move(row), {}};
+    Entry entry{std::move(row), {}, {}, {}};
     const wxString separator{wxUniChar(kFieldSeparator)};
     for (const wxString& field : wxStringTokenize(entry.row.fields, separator, wxTOKEN_RET_EMPTY_ALL))
-      entry.folded.push_back(FoldedText(ToUtf8(field)));
-    entry.folded.resize(kFields);
+      entry.texts.push_back(ToUtf8(field));
+    entry.texts.resize(kFields);
     entries_.push_back(std::move(entry));
   }
   Show();
 }
 
-const std::string& ListedUsers::Key(std::size_t entry) const {
-  return entries_[entry].folded[column_];
+void ListedUsers::Prepare() {
+  const NameRules rules = NameRules::OfSession();
+  const bool others = !keyed_ || rules != rules_;
+  if (!others && keyed_ == column_) return;
+  rules_ = rules;
+  for (auto& entry : entries_) {
+    if (others) {
+      entry.folded.clear();
+      for (const auto& text : entry.texts) entry.folded.push_back(rules_.Folded(text));
+    }
+    entry.key = rules_.SortKey(entry.texts[column_]);
+  }
+  keyed_ = column_;
 }
 
 void ListedUsers::Show() {
+  Prepare();
+  const std::string sought = rules_.Folded(filter_);
   shown_.clear();
   for (std::size_t i = 0; i < entries_.size(); ++i) {
     const auto& folded = entries_[i].folded;
     if (std::any_of(folded.begin(), folded.end(),
-                    [this](const auto& field) { return field.find(filter_) != std::string::npos; }))
+                    [&](const auto& field) { return field.find(sought) != std::string::npos; }))
       shown_.push_back(i);
   }
   if (sorted_)
     std::stable_sort(shown_.begin(), shown_.end(), [this](std::size_t a, std::size_t b) {
-      return descending_ ? Key(b) < Key(a) : Key(a) < Key(b);
+      if (descending_) std::swap(a, b);
+      return entries_[a].key < entries_[b].key;
     });
   positions_.clear();
   for (std::size_t i = 0; i < shown_.size(); ++i) positions_[entries_[shown_[i]].row.key] = i;
@@ -71,13 +84,13 @@ void ListedUsers::Sort(int column, bool descending) {
 }
 
 void ListedUsers::Filter(const wxString& text) {
-  filter_ = FoldedText(ToUtf8(text));
+  filter_ = ToUtf8(text);
   Show();
 }
 
 std::int64_t ListedUsers::FindPrefix(const wxString& prefix, std::int64_t from) {
-  const std::string sought = FoldedText(ToUtf8(prefix));
-  const auto starts = [&](std::size_t entry) { return Key(entry).starts_with(sought); };
+  const std::string sought = rules_.PrefixKey(ToUtf8(prefix));
+  const auto starts = [&](std::size_t entry) { return entries_[entry].key.starts_with(sought); };
   const auto begin = shown_.begin() + std::clamp<std::int64_t>(from, 0, Count());
   auto found = std::find_if(begin, shown_.end(), starts);
   if (found == shown_.end()) {

@@ -2,16 +2,18 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "controls/explorer/ExplorerRows.h"
+#include "editors/NameRules.h"
 
 namespace mindloft {
 
-/// Rows that are held in memory, sorted and searched as the directory does it: without regard to case, width
-/// or the composition of accents. Rows that are equal keep their order.
+/// Rows that are held in memory, sorted and searched as the directory does it in the session of the login.
+/// Rows that are equal keep their order.
 class ListedUsers : public ExplorerRows {
  public:
   /// The order before a heading is clicked: by name, or the given one.
@@ -34,18 +36,23 @@ class ListedUsers : public ExplorerRows {
  private:
   struct Entry {
     ExplorerRow row;
-    std::vector<std::string> folded;  ///< the fields
+    std::vector<std::string> texts;   ///< the fields
+    std::vector<std::string> folded;  ///< the fields, for searching
+    std::string key;                  ///< of the field by which the list is sorted
   };
 
   void Show();
-  const std::string& Key(std::size_t entry) const;
+  /// Brings what depends on the rules and the column up to date.
+  void Prepare();
 
   std::vector<Entry> entries_;
   std::vector<std::size_t> shown_;  ///< places of entries
   std::unordered_map<wxString, std::size_t> positions_;
+  NameRules rules_;
   Start start_ = Start::Sorted;
   bool sorted_ = false;  ///< by `column_`
   std::size_t column_ = 0;
+  std::optional<std::size_t> keyed_;  ///< the column of the keys
   bool descending_ = false;
   std::string filter_;
 };

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "backend/directory/FoldedText.h"
 #include "backend/tessaline/Text.h"
 #include "controls/rows/DirectoryImages.h"
 #include "controls/rows/RecordRows.h"
@@ -18,15 +17,16 @@ void DomainsGroupRows::SetDomains(std::vector<DomainRecord> domains) {
   parts_.reserve(domains.size());
   for (DomainRecord& domain : domains) {
     auto groups = domains_->Context(domain)->KDomain()->DGroups()->View();
-    std::string folded = FoldedText(domain.name);
-    parts_.push_back({std::move(domain), std::move(folded), std::move(groups), 0});
+    parts_.push_back({std::move(domain), {}, std::move(groups), 0});
   }
   Arrange();
 }
 
 void DomainsGroupRows::Arrange() {
+  rules_ = NameRules::OfSession();
+  for (Part& part : parts_) part.key = rules_.SortKey(part.domain.name);
   std::sort(parts_.begin(), parts_.end(), [this](const Part& one, const Part& other) {
-    return descending_ ? other.folded < one.folded : one.folded < other.folded;
+    return descending_ ? other.key < one.key : one.key < other.key;
   });
   for (Part& part : parts_) part.groups.SetOptions({Order::Name, descending_, filter_});
   counted_ = false;
@@ -84,10 +84,10 @@ void DomainsGroupRows::Filter(const wxString& text) {
 
 std::int64_t DomainsGroupRows::FindPrefix(const wxString& prefix, std::int64_t from) {
   if (!counted_) Count();
-  const std::string folded = FoldedText(ToUtf8(prefix));
+  const std::string sought = rules_.PrefixKey(ToUtf8(prefix));
   std::int64_t first = -1, position = 0;
   for (const Part& part : parts_) {
-    if (part.count > 0 && part.folded.compare(0, folded.size(), folded) == 0) {
+    if (part.count > 0 && part.key.starts_with(sought)) {
       if (position >= from) return position;
       // Within a domain the next row leads on.
       if (from < position + part.count) return from;

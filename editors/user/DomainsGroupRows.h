@@ -7,6 +7,7 @@
 
 #include "backend/corvane/Corvane.h"
 #include "controls/explorer/ExplorerRows.h"
+#include "editors/NameRules.h"
 
 namespace mindloft {
 
@@ -37,7 +38,7 @@ class DomainsGroupRows : public ExplorerRows {
 
   struct Part {
     DomainRecord domain;
-    std::string folded;  ///< its name, for ordering and finding
+    std::string key;  ///< of its name, for ordering and finding
     Corvane::GroupView groups;
     std::int64_t count = 0;
   };
@@ -47,6 +48,7 @@ class DomainsGroupRows : public ExplorerRows {
 
   std::shared_ptr<Corvane::KDomains> domains_;
   std::vector<Part> parts_;
+  NameRules rules_;
   std::unordered_map<ObjectId, ObjectId> listed_;  ///< domain by group
   bool descending_ = false;
   bool counted_ = false;

@@ -2,6 +2,7 @@
 
 #include "app/frmHidden.h"
 #include "app/modPublic.h"
+#include "editors/SessionLanguage.h"
 #include "mainwindow/CommandLineState.h"
 #include "tests/app/StartFixture.h"
 #include "tests/support/gui/ModalDriver.h"
@@ -50,6 +51,25 @@ TEST_F(MainTest, TheKeyTheSwitchAndTheRegistryDecideHowTheLoginGoes) {
     EXPECT_EQ(SavedCommandLine(), "node");
   }
   EXPECT_EQ(loginTitle_, GetResource().GetString(61200));
+}
+
+TEST_F(MainTest, NamesAreInTheOrderOfTheLanguageBeforeTheWindowOpens) {
+  MakeDirectory();
+  for (const int code : {2052, 1033}) {
+    ASSERT_TRUE(GetResource().SwitchLanguage(code));
+    for (const char* enabled : {"1", "0"}) {
+      SetAutoLogin(enabled);
+      auto services = TracingServices();
+      int language = 0;
+      services.login = [](const wxString&) {
+        GetConnection()->SetConnectMode(1);
+        return GetConnection()->Login(kUser, kPassword);
+      };
+      services.showMainWindow = [&] { language = SessionLanguage(); };
+      Main({}, services);
+      EXPECT_EQ(language, code) << enabled;
+    }
+  }
 }
 
 TEST_F(MainTest, ADamagedSwitchIsReportedAndLeadsToTheDialog) {

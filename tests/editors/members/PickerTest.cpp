@@ -6,6 +6,7 @@
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "core/Refresh.h"
+#include "editors/SessionLanguage.h"
 #include "editors/members/ListedUsers.h"
 #include "editors/members/MemberItems.h"
 #include "editors/members/UserList.h"
@@ -140,6 +141,43 @@ TEST_F(PickerTest, TakesItsTextsInAnotherLanguage) {
                      user.Click("cmdOK");
                    }),
               ElementsAre("Zo\u00eb"));
+}
+
+TEST_F(PickerTest, OrdersAndFindsByTheRulesOfTheLanguage) {
+  for (const char* name : {"\u674e", "Isparta"}) {
+    const auto user = Server().Users()->Add();
+    user->SetName(name);
+    user->Update();
+  }
+  std::vector<UserItem> items;
+  for (const char* name : {"anna", "\u0639\u0645\u0631", "\u674e", "Isparta"})
+    items.push_back(Item(name, ToBeAdded));
+  const auto switchTo = [](int code) {
+    ASSERT_TRUE(GetResource().SwitchLanguage(code));
+    SetSessionLanguage();
+    GetRefresh()->NotifyLanguage();
+  };
+  const auto search = [](User& user, const wxString& text) {
+    user.Find<wxSearchCtrl>("search").SetValue(text);
+    return Listed(user);
+  };
+  Pick(CallersItems, MemberItems(items), [&](User& user) {
+    EXPECT_THAT(Listed(user), ElementsAre("anna", "Isparta", "\u0639\u0645\u0631", "\u674e"));
+    EXPECT_THAT(search(user, "isp"), ElementsAre("Isparta"));
+    switchTo(1055);
+    EXPECT_THAT(Listed(user), IsEmpty()) << "it begins with the other letter";
+    EXPECT_THAT(search(user, "\u0131sp"), ElementsAre("Isparta"));
+    search(user, {});
+    Select(user, {"Isparta"});
+    switchTo(2052);
+    EXPECT_THAT(Listed(user), ElementsAre("\u674e", "anna", "Isparta", "\u0639\u0645\u0631"));
+    switchTo(1025);
+    EXPECT_THAT(Listed(user), ElementsAre("\u0639\u0645\u0631", "anna", "Isparta", "\u674e"));
+    EXPECT_EQ(Explorer(user).SelectedListKeys(), std::vector{IdOf("Isparta")});
+    EXPECT_EQ(Explorer(user).FocusedListRow(), 2);
+    switchTo(1033);
+    user.Click("cmdCancel");
+  });
 }
 
 TEST_F(PickerTest, MarksWhoLacksAPrivilege) {

@@ -3,7 +3,9 @@
 
 #include "backend/corvane/IdList.h"
 #include "backend/tessaline/Text.h"
+#include "core/Refresh.h"
 #include "editors/PendingChecks.h"
+#include "editors/SessionLanguage.h"
 #include "tests/editors/user/UserDetailFixture.h"
 #include "tests/support/gui/WaitFor.h"
 
@@ -35,6 +37,26 @@ TEST(PendingChecksTest, KeepsOnlyWhatDiffers) {
 }
 
 class UserMembershipTest : public UserDetailFixture {};
+
+TEST_F(UserMembershipTest, ListsAreInTheOrderOfTheLanguage) {
+  const auto domain = Server().KDomains()->Add();
+  domain->SetName("\u738b\u5e9c");
+  domain->Update();
+  Named("anna")->ChangeDomains(domain->Id(), "");
+  Edit(Named("anna"), [&](User& user) {
+    user.SelectPage("sstUser", 2);
+    for (const int code : {2052, 1033}) {
+      ASSERT_TRUE(GetResource().SwitchLanguage(code));
+      SetSessionLanguage();
+      GetRefresh()->NotifyLanguage();
+      const bool first = code == 2052;
+      EXPECT_EQ(Names(user, "ctDomain").front() == ToWx("\u738b\u5e9c"), first) << code;
+      EXPECT_EQ(RowOf(user, "ctGroup", "Readers"), first ? 2 : 1)
+          << code << ": behind the administrators of its own domain, and of the other";
+    }
+    user.Click("cmdCancel");
+  });
+}
 
 TEST_F(UserMembershipTest, RolesAreToggledWithMouseAndSpace) {
   wxString role;
