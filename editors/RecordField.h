@@ -18,6 +18,8 @@ struct RecordField {
   std::function<wxString(const Record&)> text;
   std::function<bool(const Record&, const Record&)> isSame;
   std::function<void(Record& to, const Record& from)> copy;
+  int readsAlike =
+      0;  ///< number of the text (%1 the value) for values that differ and read alike; 0: none do
 };
 
 /// A field that reads as `show` says.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "backend/errors/Error.h"
@@ -26,9 +27,13 @@ bool ResolveConflict(wxWindow* parent, Object& object, const std::vector<RecordF
   if (!merge.conflicts.empty() || !further.empty()) {
     std::vector<FieldDifference> differences;
     differences.reserve(merge.conflicts.size() + further.size());
-    for (const std::size_t i : merge.conflicts)
-      differences.push_back(
-          {GetResource().GetString(fields[i].label), fields[i].text(mine), fields[i].text(theirs)});
+    for (const std::size_t i : merge.conflicts) {
+      FieldDifference difference = {GetResource().GetString(fields[i].label), fields[i].text(mine),
+                                    fields[i].text(theirs)};
+      if (difference.mine == difference.theirs && fields[i].readsAlike != 0)
+        difference.theirs = GetResource().GetFormatString(fields[i].readsAlike, {difference.theirs});
+      differences.push_back(std::move(difference));
+    }
     differences.insert(differences.end(), further.begin(), further.end());
     frmConflict dialog(parent, conflict, differences);
     chosen = dialog.Ask();

@@ -22,6 +22,7 @@ constexpr int kTheirs = 61603;
 /// Of the introduction and of a value's box, in pixels at 96 dpi.
 constexpr int kTextWidth = 460;
 constexpr int kValueWidth = 180;
+constexpr int kLinesHeight = 72;
 
 /// The time of an error's parameter (UTC, ISO 8601) as the user's clock shows it.
 wxString LocalTime(const std::string& iso) {
@@ -79,8 +80,10 @@ void frmConflict::ShowDifferences(const std::vector<FieldDifference>& difference
   heading(GetResource().GetString(kTheirs));
   const auto value = [&](const wxString& name, const wxString& text) {
     // A box shows a text of any length, and it can be copied from there.
-    auto* box = new wxTextCtrl(pnlFields, wxID_ANY, text, wxDefaultPosition, FromDIP(wxSize(kValueWidth, -1)),
-                               wxTE_READONLY, wxDefaultValidator, name);
+    const bool hasLines = text.Contains("\n");
+    const wxSize size = FromDIP(wxSize(kValueWidth, hasLines ? kLinesHeight : -1));
+    auto* box = new wxTextCtrl(pnlFields, wxID_ANY, text, wxDefaultPosition, size,
+                               wxTE_READONLY | (hasLines ? wxTE_MULTILINE : 0), wxDefaultValidator, name);
     grid->Add(box, 1, wxEXPAND);
   };
   for (std::size_t i = 0; i < differences.size(); ++i) {

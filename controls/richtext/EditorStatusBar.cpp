@@ -21,6 +21,8 @@ constexpr int kOverwriteText = 62055;
 
 EditorStatusBar::EditorStatusBar(wxWindow* parent, const wxString& name)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, name) {
+  // Nothing can be done here: Tab goes past it.
+  m_container.DisableSelfFocus();
   Swallow(*this);
   int left = FromDIP(kEdge);
   for (const char* field : {"lblPlace", "lblColumn", "lblZoom", "lblInsert"}) {

@@ -42,6 +42,7 @@ void RichEditor::UseBaseStyle() {
   style.SetLineSpacing(wxTEXT_ATTR_LINE_SPACING_NORMAL);
   style.SetParagraphSpacingAfter(0);
   style.SetParagraphSpacingBefore(0);
+  style.Apply(baseLook_);
   SetBasicStyle(style);
   SetMargins(kSpaceAround);
 }

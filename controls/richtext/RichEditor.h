@@ -24,7 +24,10 @@ class RichEditor : public wxRichTextCtrl {
   /// caller.
   void ReplaceContent(const std::function<void()>& load);
 
-  /// The format of a text that has none: the system's font, black, to the right where the language runs so.
+  /// What a text that has no format looks like instead of the system's font in black; an empty format: that
+  /// again. Holds for texts that are loaded from now on, and becomes their own when they are stored.
+  void SetBaseLook(const wxRichTextAttr& look) { baseLook_ = look; }
+  /// The format of a text that has none: the base look, to the right where the language runs so.
   void UseBaseStyle();
 
   /// In tenths of a millimetre between the margins of a page; 0: lines end at the window's edge. A window
@@ -79,6 +82,7 @@ class RichEditor : public wxRichTextCtrl {
   void OnTyped(wxKeyEvent& event);
 
   Place told_;
+  wxRichTextAttr baseLook_;
   int pageWidth_ = 0;
   bool gridLines_ = true;
   bool overwrite_ = false;

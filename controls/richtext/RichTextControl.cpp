@@ -58,6 +58,12 @@ void RichTextControl::BindEditor() {
   TXTextControl->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
     if (!RunCommandOfKey(*this, event)) event.Skip();
   });
+  // Tab types; with Ctrl it leaves the text, whatever notebook the control stands in.
+  TXTextControl->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+    if (event.GetKeyCode() != WXK_TAB || !event.RawControlDown() || event.AltDown()) return event.Skip();
+    TXTextControl->Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward
+                                              : wxNavigationKeyEvent::IsForward);
+  });
   TXTextControl->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent&) {
     Guarded(className_, "ShowMenu", [this] { ShowEditMenu(*this); });
   });

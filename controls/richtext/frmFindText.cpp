@@ -61,14 +61,17 @@ frmFindText::frmFindText(RichTextControl& control, bool replaces, const wxString
 
 void frmFindText::Open() {
   const auto* owner = dynamic_cast<wxDialog*>(wxGetTopLevelParent(&control_));
-  if (owner && owner->IsModal())
+  if (owner && owner->IsModal()) {
     ShowModal();
-  else
+    Destroy();
+  } else {
     Show();
+  }
 }
 
 void frmFindText::CloseWindow() {
-  if (IsModal()) EndModal(wxID_CANCEL);
+  // Whoever shows it modally still works in it, and destroys it then.
+  if (IsModal()) return EndModal(wxID_CANCEL);
   Hide();
   Destroy();
 }

@@ -4,6 +4,9 @@
 #include <wx/fontenum.h>
 #include <wx/settings.h>
 
+#include "backend/corvane/StyleFormat.h"
+#include "backend/tessaline/Text.h"
+
 namespace mindloft {
 namespace {
 
@@ -26,6 +29,20 @@ std::optional<wxString> FaceOfStyleFont(const wxString& fontName) {
   }
   if (!wxFontEnumerator::IsValidFacename(fontName)) return std::nullopt;
   return fontName;
+}
+
+std::optional<wxRichTextAttr> LettersOfStyle(const Corvane::StyleFormat& format) {
+  const auto face = FaceOfStyleFont(ToWx(format.fontName));
+  if (!face) return std::nullopt;
+  wxRichTextAttr look;
+  look.SetFontFaceName(*face);
+  look.SetFontPointSize(format.fontSize);
+  look.SetFontWeight(format.bold ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
+  look.SetFontStyle(format.italic ? wxFONTSTYLE_ITALIC : wxFONTSTYLE_NORMAL);
+  look.SetFontUnderlined(format.underline);
+  look.SetTextEffectFlags(wxTEXT_ATTR_EFFECT_STRIKETHROUGH);
+  look.SetTextEffects(format.strikeThrough ? wxTEXT_ATTR_EFFECT_STRIKETHROUGH : wxTEXT_ATTR_EFFECT_NONE);
+  return look;
 }
 
 std::vector<wxString> StyleFonts() {

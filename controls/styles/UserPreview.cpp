@@ -79,19 +79,12 @@ void UserPreview::Preview(const std::shared_ptr<Corvane::Style>& style) try {
 }
 
 bool UserPreview::ApplyFont(const Corvane::StyleFormat& format, wxRichTextAttr& look) {
-  const auto name = ToWx(format.fontName);
-  const auto face = FaceOfStyleFont(name);
-  if (!face) {
-    GetMessenger().ShowMessage(texts::kFontNotInstalled, {name}, this);
+  const auto letters = LettersOfStyle(format);
+  if (!letters) {
+    GetMessenger().ShowMessage(texts::kFontNotInstalled, {ToWx(format.fontName)}, this);
     return false;
   }
-  look.SetFontFaceName(*face);
-  look.SetFontPointSize(format.fontSize);
-  look.SetFontWeight(format.bold ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
-  look.SetFontStyle(format.italic ? wxFONTSTYLE_ITALIC : wxFONTSTYLE_NORMAL);
-  look.SetFontUnderlined(format.underline);
-  look.SetTextEffectFlags(wxTEXT_ATTR_EFFECT_STRIKETHROUGH);
-  look.SetTextEffects(format.strikeThrough ? wxTEXT_ATTR_EFFECT_STRIKETHROUGH : wxTEXT_ATTR_EFFECT_NONE);
+  look = *letters;
   font_ = look.GetFont();
   return true;
 }

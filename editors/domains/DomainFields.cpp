@@ -21,12 +21,24 @@ wxString StateName(const bool& disabled) {
   return GetResource().GetString(disabled ? texts::kStateDisabled : texts::kStateEnabled);
 }
 
+/// Text and formats together: whoever takes one side's takes the whole description of it.
+RecordField<DomainRecord> DescriptionField() {
+  return {texts::kColumnDescription, [](const DomainRecord& domain) { return ToWx(domain.description); },
+          [](const DomainRecord& one, const DomainRecord& other) {
+            return one.description == other.description && one.document == other.document;
+          },
+          [](DomainRecord& to, const DomainRecord& from) {
+            to.description = from.description;
+            to.document = from.document;
+          },
+          texts::kReadsAlike};
+}
+
 }  // namespace
 
 bool MergeDomain(wxWindow* parent, Corvane::KDomain& domain, const Error& conflict) {
   const std::vector<RecordField<DomainRecord>> fields = {
-      Field(texts::kColumnName, &DomainRecord::name),
-      Field(texts::kColumnDescription, &DomainRecord::description),
+      Field(texts::kColumnName, &DomainRecord::name), DescriptionField(),
       Field<DomainRecord, ObjectId>(texts::kFieldStyle, &DomainRecord::style, StyleName),
       Field<DomainRecord, bool>(texts::kColumnState, &DomainRecord::disabled, StateName)};
   return ResolveConflict(parent, domain, fields, conflict);

@@ -13,12 +13,12 @@
 #include "controls/rows/GroupRows.h"
 #include "controls/styles/StyleTexts.h"
 #include "controls/styles/frmStyleSelect.h"
-#include "controls/texts/UseMultiLineTextBox.h"
 #include "controls/texts/UseTextBox.h"
 #include "core/ErrorHandling.h"
 #include "core/modShare.h"
 #include "editors/LongChange.h"
 #include "editors/domains/DomainCopyPage.h"
+#include "editors/domains/DomainDescriptionPage.h"
 #include "editors/domains/DomainFields.h"
 #include "editors/domains/DomainLists.h"
 #include "editors/domains/DomainRights.h"
@@ -30,17 +30,20 @@ namespace mindloft {
 
 frmDomainInfo::frmDomainInfo(wxWindow* parent) : PropertySheet(parent, "frmDomainInfo", "sstDomain") {
   sstDomain = Find<wxBookCtrlBase>("sstDomain");
+  pnlDesc = Find<wxWindow>("pnlDesc");
   pnlCopy = Find<wxWindow>("pnlCopy");
   pnlGroups = Find<wxWindow>("pnlGroups");
   pnlUsers = Find<wxWindow>("pnlUsers");
   txtName = Find<UseTextBox>("txtName");
-  TxtDesc = Find<UseMultiLineTextBox>("TxtDesc");
   txtStyle = Find<UseTextBox>("txtStyle");
   cmdStyle = Find<wxButton>("cmdStyle");
   chkDisabled = Find<wxCheckBox>("chkDisabled");
   ctGroup = Find<ctExplorer>("ctGroup");
   copy_ = std::make_unique<DomainCopyPage>(
       *this, [this] { RunEvent("ctSource_lvSelChange", [this] { InfoChanged(); }); });
+  description_ = std::make_unique<DomainDescriptionPage>(
+      *this, [this] { RunEvent("TxtDesc_Change", [this] { InfoChanged(); }); },
+      [this] { return ToUtf8(txtName->Text()); });
   users_ = std::make_unique<MemberList>(*this, "frmDomainInfo", [this] { SetButtonStatus(); });
   BindHandlers();
   FollowLanguage();
@@ -50,7 +53,6 @@ frmDomainInfo::~frmDomainInfo() = default;
 
 void frmDomainInfo::BindHandlers() {
   txtName->Change = [this] { RunEvent("txtName_Change", [this] { InfoChanged(); }); };
-  TxtDesc->Change = [this] { RunEvent("TxtDesc_Change", [this] { InfoChanged(); }); };
   cmdStyle->Bind(wxEVT_BUTTON,
                  [this](wxCommandEvent&) { RunEvent("cmdStyle_Click", [this] { cmdStyle_Click(); }); });
   chkDisabled->Bind(wxEVT_CHECKBOX,
@@ -108,8 +110,11 @@ void frmDomainInfo::LoadInfoOnForm() try {
   const LoadingGuard::Lock lock(loading_);
   ShowStyle();
   users_->LoadInfo();
-  for (int page = 0; page < static_cast<int>(sstDomain->GetPageCount()); ++page)
-    if (IsFilled(page) && sstDomain->GetPage(static_cast<std::size_t>(page)) != pnlUsers) FillPage(page);
+  description_->LoadInfo();
+  for (int page = 0; page < static_cast<int>(sstDomain->GetPageCount()); ++page) {
+    const auto* window = sstDomain->GetPage(static_cast<std::size_t>(page));
+    if (IsFilled(page) && window != pnlUsers && window != pnlDesc) FillPage(page);
+  }
 } catch (...) {
   mindloft::Raise("frmDomainInfo", "LoadInfoOnForm");
 }
@@ -134,13 +139,14 @@ void frmDomainInfo::cmdStyle_Click() {
   if (picker.Accepted()) style_ = chosen ? chosen->Stored().id : 0;
   // The styles themselves may have been changed meanwhile.
   ShowStyle();
-  if (style_ != former) InfoChanged();
+  if (style_ == former) return;
+  description_->Follow(*domain_, style_, false);
+  InfoChanged();
 }
 
 void frmDomainInfo::GetInfo() try {
   const LoadingGuard::Lock lock(loading_);
   txtName->SetText(ToWx(domain_->Name()));
-  TxtDesc->SetText(ToWx(domain_->Description()));
   style_ = domain_->Edited().style;
   ShowStyle();
   chkDisabled->SetValue(domain_->Disabled());
@@ -150,6 +156,7 @@ void frmDomainInfo::GetInfo() try {
 
 void frmDomainInfo::FillPage(int page) {
   const auto* shown = sstDomain->GetPage(static_cast<std::size_t>(page));
+  if (shown == pnlDesc) description_->Display(*domain_, style_);
   if (shown == pnlCopy) copy_->Display();
   if (shown == pnlGroups) DisplayGroups();
   if (shown == pnlUsers) users_->DisplayUsers();
@@ -171,7 +178,7 @@ void frmDomainInfo::ctGroup_lvItemDblClick() {
 
 void frmDomainInfo::SetButtonStatus() try {
   txtName->SetLocked(!mayChange_);
-  TxtDesc->SetLocked(!mayChange_);
+  description_->SetButtonStatus(mayChange_);
   cmdStyle->Enable(mayChange_);
   chkDisabled->Enable(mayChange_);
   copy_->SetButtonStatus(mayChange_);
@@ -200,7 +207,7 @@ bool frmDomainInfo::RefuseBlankName() {
 
 void frmDomainInfo::PutInfo() {
   domain_->SetName(ToUtf8(txtName->Text()));
-  domain_->SetDescription(ToUtf8(TxtDesc->Text()));
+  description_->Put(*domain_);
   domain_->SetStyleId(Corvane::IdText(style_));
   domain_->SetDisabled(chkDisabled->GetValue());
   if (domain_->IsNew()) domain_->CopyFrom(copy_->Chosen());
@@ -214,6 +221,7 @@ bool frmDomainInfo::SaveInfo() try {
                        [this](const Progress& progress) { domain_->Update(progress); }))
       return false;
     infoChanged_ = false;
+    description_->SetStored();
     SetSaved();
   }
   if (users_->Changed()) {
@@ -233,8 +241,8 @@ void frmDomainInfo::cmdApply_Click() {
   ArrangePages();
   ShowCaption();
   GetInfo();
-  FillAgain(1);
-  FillAgain(2);
+  FillAgain(sstDomain->FindPage(pnlGroups));
+  FillAgain(sstDomain->FindPage(pnlUsers));
   SetButtonStatus();
   cmdOK->SetFocus();
 }
@@ -252,8 +260,12 @@ void frmDomainInfo::CmdCancel_Click() {
 
 bool frmDomainInfo::MergeConflict(const Error& conflict) {
   if (infoChanged_) PutInfo();
+  const DomainRecord mine = domain_->Edited();
   if (!MergeDomain(this, *domain_, conflict)) return false;
+  const DomainRecord& merged = domain_->Edited();
   GetInfo();
+  description_->Follow(*domain_, style_,
+                       merged.description != mine.description || merged.document != mine.document);
   SetButtonStatus();
   return true;
 }

@@ -11,16 +11,16 @@ class wxCheckBox;
 namespace mindloft {
 
 class DomainCopyPage;
+class DomainDescriptionPage;
 class MemberList;
-class UseMultiLineTextBox;
 class UseTextBox;
 class ctExplorer;
 namespace Corvane {
 class KDomain;
 }
 
-/// The property sheet of one knowledge domain: name, description, style, whether it is disabled, its groups
-/// and its users. A new domain can take over what an existing one has.
+/// The property sheet of one knowledge domain: name, style, whether it is disabled, its formatted
+/// description, its groups and its users. A new domain can take over what an existing one has.
 class frmDomainInfo : public PropertySheet {
  public:
   explicit frmDomainInfo(wxWindow* parent);
@@ -58,6 +58,7 @@ class frmDomainInfo : public PropertySheet {
   bool SaveInfo();
 
   std::shared_ptr<Corvane::KDomain> domain_;
+  std::unique_ptr<DomainDescriptionPage> description_;
   std::unique_ptr<DomainCopyPage> copy_;
   std::unique_ptr<MemberList> users_;
   ObjectId style_ = 0;  ///< the chosen one; 0: none
@@ -66,11 +67,11 @@ class frmDomainInfo : public PropertySheet {
   bool mayChangeUsers_ = false;  ///< who has access
 
   wxBookCtrlBase* sstDomain = nullptr;
+  wxWindow* pnlDesc = nullptr;
   wxWindow* pnlCopy = nullptr;
   wxWindow* pnlGroups = nullptr;
   wxWindow* pnlUsers = nullptr;
   UseTextBox* txtName = nullptr;
-  UseMultiLineTextBox* TxtDesc = nullptr;
   UseTextBox* txtStyle = nullptr;
   wxButton* cmdStyle = nullptr;
   wxCheckBox* chkDisabled = nullptr;

@@ -265,7 +265,8 @@ TEST_F(ObjectCommandsTest, ADomainIsMadeShownRenamedAndDeletedWhileItsPlaceFollo
   SelectRow("Alpha");
   modal.ExpectForm("frmDomainInfo", [](User& user) {
     user.Type("txtName", "Aardvarks");
-    user.Type("TxtDesc", "about them");
+    user.SelectPage("sstDomain", 1);
+    user.Type("TXTextControl", "about them");
     user.Click("cmdOK");
   });
   Run("mnuDomainaddNew");

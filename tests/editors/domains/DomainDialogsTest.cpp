@@ -63,9 +63,9 @@ TEST_F(DomainDialogsTest, ANewDomainTakesOverWhatIsWanted) {
     SCOPED_TRACE(expectedUsers * 10 + expectedReaders);
     const auto domain = Server().KDomains()->Add();
     modal_.ExpectForm("frmDomainInfo", [&](User& user) {
-      EXPECT_THAT(Tabs(user), ElementsAre("pnlGeneral", "pnlCopy"));
+      EXPECT_THAT(Tabs(user), ElementsAre("pnlGeneral", "pnlDesc", "pnlCopy"));
       user.Type("txtName", wxString::Format("Copy %d%d%d", groups, users, members));
-      user.SelectPage("sstDomain", 1);
+      user.SelectPage("sstDomain", 2);
       EXPECT_FALSE(user.IsEnabled("chkCopyGroups"));
       SelectNamed(user, "ctSource", "Alpha");
       Settle();
@@ -75,10 +75,10 @@ TEST_F(DomainDialogsTest, ANewDomainTakesOverWhatIsWanted) {
       EXPECT_EQ(user.IsEnabled("chkCopyMembers"), groups && users);
       user.Click("cmdApply");
       // The domain is stored: now it has groups and users of its own.
-      EXPECT_THAT(Tabs(user), ElementsAre("pnlGeneral", "pnlGroups", "pnlUsers"));
-      user.SelectPage("sstDomain", 2);
+      EXPECT_THAT(Tabs(user), ElementsAre("pnlGeneral", "pnlDesc", "pnlGroups", "pnlUsers"));
+      user.SelectPage("sstDomain", 3);
       EXPECT_EQ(Explorer(user).ListCount(), expectedUsers);
-      user.SelectPage("sstDomain", 1);
+      user.SelectPage("sstDomain", 2);
       EXPECT_EQ(Explorer(user, "ctGroup").ListCount(), expectedReaders < 0 ? 1 : 2);
       EXPECT_FALSE(user.IsEnabled("cmdApply"));
       user.Click("cmdOK");
@@ -138,7 +138,7 @@ TEST_F(DomainDialogsTest, ChangesOfOthersAreMergedAndUsersComeAndGoWithThem) {
     theirs->ChangeUsers("", IdOf("anna").ToStdString());
     user.Click("cmdApply");
     EXPECT_EQ(user.Read("txtName"), "Omega");
-    user.SelectPage("sstDomain", 2);
+    user.SelectPage("sstDomain", 3);
     EXPECT_THAT(Listed(user), Not(Contains("anna")));
     SelectNamed(user, "ctUser", wxString::FromUTF8("Zo\u00eb"));
     Settle();
@@ -171,7 +171,8 @@ TEST_F(DomainDialogsTest, ClosingAsksOnlyWhenSomethingWasChanged) {
   modal_.ExpectForm("frmDomainInfo", [&](User& user) { user.Form().Close(); });
   frmDomainInfo(nullptr).OpenWindow(Alpha());
   modal_.ExpectForm("frmDomainInfo", [&](User& user) {
-    user.Type("TxtDesc", "changed");
+    user.SelectPage("sstDomain", 1);
+    user.Type("TXTextControl", "changed");
     modal_.ExpectMessage(61600, wxID_NO);
     user.Form().Close();
     modal_.ExpectMessage(61600, wxID_YES);
@@ -189,7 +190,7 @@ TEST_F(DomainDialogsTest, WithoutRightsAllCanBeSeenAndNothingChanged) {
     for (const char* control : {"cmdStyle", "chkDisabled", "cmdApply", "cmdAdd", "cmdRemove"})
       EXPECT_FALSE(user.IsEnabled(control)) << control;
     EXPECT_THROW(user.Type("txtName", "x"), std::runtime_error);
-    user.SelectPage("sstDomain", 2);
+    user.SelectPage("sstDomain", 3);
     EXPECT_EQ(Explorer(user).ListCount(), 6);
     user.Click("cmdOK");
   });

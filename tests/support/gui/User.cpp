@@ -36,11 +36,11 @@ void Send(wxWindow& control, wxEventType type, int number = 0, const wxString& t
 /// Where a text is typed: the control itself, or the box that is shown inside a control made of several
 /// windows.
 wxWindow& TextPlace(wxWindow& control) {
-  if (dynamic_cast<wxTextEntry*>(&control) || !dynamic_cast<wxPanel*>(&control)) return control;
+  if (dynamic_cast<wxTextEntryBase*>(&control) || !dynamic_cast<wxPanel*>(&control)) return control;
   for (wxWindow* child : control.GetChildren()) {
     if (!child->IsShown()) continue;
     wxWindow& place = TextPlace(*child);
-    if (dynamic_cast<wxTextEntry*>(&place)) return place;
+    if (dynamic_cast<wxTextEntryBase*>(&place)) return place;
   }
   return control;
 }
@@ -89,7 +89,7 @@ void User::RefuseUnusable(const char* name, const wxWindow& control) {
 
 void User::Type(const char* name, const wxString& text) {
   auto& control = TextPlace(Usable(name));
-  auto* entry = dynamic_cast<wxTextEntry*>(&control);
+  auto* entry = dynamic_cast<wxTextEntryBase*>(&control);
   if (!entry || !entry->IsEditable()) Refuse(name, "takes no text");
   control.SetFocus();
   for (wxUniChar character : text) {
@@ -99,7 +99,7 @@ void User::Type(const char* name, const wxString& text) {
 
 void User::Clear(const char* name) {
   auto& control = TextPlace(Usable(name));
-  auto* entry = dynamic_cast<wxTextEntry*>(&control);
+  auto* entry = dynamic_cast<wxTextEntryBase*>(&control);
   if (!entry || !entry->IsEditable()) Refuse(name, "takes no text");
   control.SetFocus();
   entry->SelectAll();
@@ -220,7 +220,7 @@ void User::DoubleClickRow(const char* name, long row) {
 
 wxString User::Read(const char* name) const {
   auto& control = TextPlace(Find(name));
-  if (auto* entry = dynamic_cast<wxTextEntry*>(&control)) return entry->GetValue();
+  if (auto* entry = dynamic_cast<wxTextEntryBase*>(&control)) return entry->GetValue();
   if (auto* items = dynamic_cast<wxItemContainerImmutable*>(&control)) return items->GetStringSelection();
   return control.GetLabel();
 }
