@@ -146,7 +146,7 @@ std::vector<std::int64_t> OverlaidUsers::PositionsOf(const std::vector<wxString>
   return positions;
 }
 
-std::int64_t OverlaidUsers::ShownOf(std::int64_t place) const {
+std::int64_t OverlaidUsers::ShownOf(std::int64_t place) {
   return place < 0 || IsHidden(place) ? -1 : first_.Count() + ShownBefore(place);
 }
 

@@ -39,7 +39,7 @@ class OverlaidUsers : public ExplorerRows {
   /// The first place of a stored user, at or behind one, who is not left out.
   std::int64_t NextShown(std::int64_t place) const;
   /// The number of the stored user at that place; -1 when he is left out, or the place is -1.
-  std::int64_t ShownOf(std::int64_t place) const;
+  std::int64_t ShownOf(std::int64_t place);
   /// From the number of a shown stored user to the place among all stored ones, and back.
   std::int64_t PlaceOf(std::int64_t shown) const;
   std::int64_t ShownBefore(std::int64_t place) const;

@@ -103,7 +103,7 @@ TEST_F(NotificationTest, GroupsComeChangeAndGoInTheListOfTheirDomain) {
   EXPECT_EQ(Rows().back(), "Zoologists|who came last");
   ExpectStillSelected();
 
-  groups("Alpha")->Delete({{group->Stored().id, group->Stored().version}});
+  groups("Alpha")->Delete({{group->Stored().id, group->Stored().version}}, {});
   Notify(ObjectKind::UserGroup, ObjectAction::Deleted, group);
   EXPECT_THAT(Names(), Not(Contains(wxString("Zoologists"))));
   ExpectStillSelected();
