@@ -21,6 +21,18 @@ void RegisterXml() {
     wxRichTextBuffer::AddHandler(new wxRichTextXMLHandler);
 }
 
+/// Gives the paragraphs of a table's cells the font of the text where they have none.
+void CompleteCells(const wxRichTextTable& table, const wxRichTextAttr& base) {
+  for (int cell = 0; cell < table.GetRowCount() * table.GetColumnCount(); ++cell) {
+    const auto* box = table.GetCell(cell / table.GetColumnCount(), cell % table.GetColumnCount());
+    for (auto* node = box->GetChildren().GetFirst(); node; node = node->GetNext()) {
+      wxRichTextAttr& format = node->GetData()->GetAttributes();
+      if (!format.HasFontPointSize()) format.SetFontPointSize(base.GetFontSize());
+      if (!format.HasFontFaceName()) format.SetFontFaceName(base.GetFontFaceName());
+    }
+  }
+}
+
 /// After loading: the space around the text, and for tables without a font of their own that of the text,
 /// which they do not take by themselves.
 void CompleteStyle(RichEditor& editor) {
@@ -31,7 +43,9 @@ void CompleteStyle(RichEditor& editor) {
     if (!paragraph) continue;
     for (auto* part = paragraph->GetChildren().GetFirst(); part; part = part->GetNext()) {
       auto* table = dynamic_cast<wxRichTextTable*>(part->GetData());
-      if (!table || table->GetAttributes().HasFontPointSize()) continue;
+      if (!table) continue;
+      CompleteCells(*table, editor.GetBasicStyle());
+      if (table->GetAttributes().HasFontPointSize()) continue;
       wxRichTextAttr format = editor.GetBasicStyle();
       format.GetTextBoxAttr() = wxTextBoxAttr();
       wxRichTextApplyStyle(format, table->GetAttributes());

@@ -51,11 +51,11 @@ bool AskForPage(wxWindow& parent, PageSettings& page) {
   return true;
 }
 
-void DocumentPrinting::Print(const wxRichTextBuffer& document) {
+void DocumentPrinting::Print(const wxRichTextBuffer& document, bool asks) {
   wxPrintDialogData data(ToPrintData(page_));
   wxPrinter printer(&data);
   const auto printout = MakePrintout(document, page_);
-  if (!printer.Print(wxGetTopLevelParent(&parent_), printout.get(), true) &&
+  if (!printer.Print(wxGetTopLevelParent(&parent_), printout.get(), asks) &&
       wxPrinter::GetLastError() == wxPRINTER_ERROR)
     GetMessenger().ShowMessage(kFailed, {}, &parent_);
 }

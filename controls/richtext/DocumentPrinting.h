@@ -16,8 +16,8 @@ class DocumentPrinting {
  public:
   DocumentPrinting(wxWindow& parent, const PageSettings& page) : parent_(parent), page_(page) {}
 
-  /// Asks for the printer and the pages, then prints; a failure is told.
-  void Print(const wxRichTextBuffer& document);
+  /// Prints, after asking for the printer and the pages unless `asks` is false; a failure is told.
+  void Print(const wxRichTextBuffer& document, bool asks = true);
   /// Shows the pages in a window of their own, from which they can be printed.
   void Preview(const wxRichTextBuffer& document);
 

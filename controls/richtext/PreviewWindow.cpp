@@ -9,6 +9,7 @@
 #include "core/ErrorHandling.h"
 #include "core/forms/Form.h"
 #include "core/forms/Images.h"
+#include "platform/ui/ModalFrame.h"
 
 namespace mindloft {
 namespace {
@@ -94,6 +95,10 @@ class PreviewFrame : public wxPreviewFrame {
     bar->CreateButtons();
   }
 
+  /// The toolkit's status bar tells the pages in its own language; the bar above tells them in the user's.
+  wxStatusBar* OnCreateStatusBar(int, long, wxWindowID, const wxString&) override { return nullptr; }
+  void SetStatusText(const wxString&, int = 0) override {}
+
   /// For pages that became known only while they were shown.
   void Tell() { static_cast<PreviewBar*>(m_controlBar)->Tell(); }
 };
@@ -111,6 +116,7 @@ void ShowPreview(wxWindow* parent, std::unique_ptr<wxPrintPreview> preview, cons
   constexpr int kHeight = 640;
   frame->SetSize(frame->FromDIP(wxSize(kWidth, kHeight)));
   frame->CentreOnParent();
+  platform::ShowAboveModal(*frame);
   frame->Show();
   frame->Tell();
 }

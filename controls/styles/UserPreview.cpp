@@ -19,6 +19,9 @@ namespace mindloft {
 namespace {
 
 constexpr const char* kLineBreak = "\r\n";
+/// The toolkit measures the lines of a text that runs from right to left some pixels too short or too long:
+/// their first letters must not be cut off.
+constexpr int kSpaceAround = 14;
 
 wxColour DesktopColour() {
   return wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW);
@@ -129,6 +132,7 @@ void UserPreview::ApplyBackground(const Corvane::StyleFormat& format) {
 void UserPreview::InsertText(const wxRichTextAttr& look) {
   wxString text = previewText_;
   text.Replace(kLineBreak, "\n");
+  picPreview->SetMargins(kSpaceAround);
   picPreview->WriteText(text);
   // Written in a style, the last paragraph would not take part in it.
   picPreview->SetStyleEx(picPreview->GetBuffer().GetOwnRange(), look, wxRICHTEXT_SETSTYLE_NONE);

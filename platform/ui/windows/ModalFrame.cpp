@@ -1,0 +1,7 @@
+#include "platform/ui/ModalFrame.h"
+
+namespace mindloft::platform {
+
+void ShowAboveModal(wxTopLevelWindow&) {}
+
+}  // namespace mindloft::platform
