@@ -2,10 +2,13 @@
 
 #include <wx/app.h>
 
+class wxFrame;
+
 namespace mindloft {
 
 /// The developers' program that shows every control of the console. `--language CODE` shows them in that
-/// language and its layout direction, `--rich-text` the rich-text controls. It neither reads nor writes the
+/// language and its layout direction, the options of GalleryApp.cpp the pages of
+/// controls that need much room. It neither reads nor writes the
 /// user's settings.
 class GalleryApp : public wxApp {
  public:
@@ -21,7 +24,7 @@ class GalleryApp : public wxApp {
   void OnUnhandledException() override;
 
  private:
-  bool showsRichText_ = false;
+  wxFrame* (*makePage_)();
 };
 
 }  // namespace mindloft

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 #include <wx/panel.h>
 
+#include "gallery/PageSetupPart.h"
+#include "gallery/RichTextPart.h"
+#include "gallery/StylesPart.h"
 #include "gallery/frmControls.h"
-#include "gallery/frmRichTexts.h"
+#include "gallery/frmOnePart.h"
 #include "tests/support/gui/PrivateServices.h"
 #include "tests/support/gui/User.h"
 #include "tests/support/gui/WaitFor.h"
@@ -41,12 +44,15 @@ TEST_F(GalleryTest, ShowsAllOnOnePageInEveryLanguage) {
   }
 }
 
-TEST_F(GalleryTest, ShowsTheRichTextControlsInEveryLanguage) {
+/// Shows the page of that part in every language.
+template <typename Part>
+void ExpectShown(const char* name) {
+  SCOPED_TRACE(name);
   for (const int language : GetResource().Languages()) {
     ASSERT_TRUE(GetResource().SwitchLanguage(language));
-    auto* form = new frmRichTexts;
+    auto* form = PageOf<Part>();
     form->Show();
-    const auto& part = User(*form).Find<wxPanel>("RichTextPart");
+    const auto& part = User(*form).Find<wxPanel>(name);
     WaitFor([&] { return part.IsShownOnScreen() && part.GetSize().x > 0; }, "the controls on the screen");
     Settle();
     EXPECT_LE(form->GetSize().x, 1280) << language;
@@ -55,6 +61,12 @@ TEST_F(GalleryTest, ShowsTheRichTextControlsInEveryLanguage) {
     form->Destroy();
     Settle();
   }
+}
+
+TEST_F(GalleryTest, ShowsThePagesOfTheirOwnInEveryLanguage) {
+  ExpectShown<RichTextPart>("RichTextPart");
+  ExpectShown<PageSetupPart>("PageSetupPart");
+  ExpectShown<StylesPart>("StylesPart");
 }
 
 }  // namespace
