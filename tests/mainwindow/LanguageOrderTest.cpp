@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <wx/listctrl.h>
+#include <wx/menuitem.h>
 
 #include <algorithm>
 
@@ -52,12 +53,12 @@ class LanguageOrderTest : public MainWindowTest {
     LanguageMenu::Switch(code);
     Settle();
   }
-  std::vector<wxString> Names() {
-    std::vector<wxString> names;
-    for (const auto& row : Rows()) names.push_back(row.BeforeFirst('|'));
+  std::vector<std::string> Names() {
+    std::vector<std::string> names;
+    for (const auto& row : Rows()) names.push_back(ToUtf8(row.BeforeFirst('|')));
     return names;
   }
-  std::int64_t RowOf(const wxString& name) {
+  std::int64_t RowOf(const std::string& name) {
     const auto names = Names();
     return std::find(names.begin(), names.end(), name) - names.begin();
   }
@@ -68,16 +69,16 @@ class LanguageOrderTest : public MainWindowTest {
     return keys;
   }
   wxListCtrl& List() { return User(*form_).Find<wxListCtrl>("list"); }
-  std::vector<wxString> Domains() {
-    std::vector<wxString> names;
+  std::vector<std::string> Domains() {
+    std::vector<std::string> names;
     for (int index = 0; index < Explorer().TreeNodeCount(); ++index)
-      if (form_->Tree().IsDomain(index)) names.push_back(Explorer().TreeNodeText(index));
+      if (form_->Tree().IsDomain(index)) names.push_back(ToUtf8(Explorer().TreeNodeText(index)));
     return names;
   }
   /// The window's texts are of the program's language, whatever became of the order.
   void ExpectTexts() {
     const auto caption = GetResource().CaptionOf("frmSysAdmin", "mnuViewRefresh");
-    EXPECT_EQ(MenuText("mnuViewRefresh"), wxControl::RemoveMnemonics(caption.value().text));
+    EXPECT_EQ(MenuText("mnuViewRefresh"), wxMenuItem::GetLabelText(caption.value().text));
     EXPECT_EQ(Explorer().TreeNodeText(Node({"59300", "59303"})), GetResource().GetString(59303));
   }
   void Sql(const char* statements) { sqlite::Database(file_, SQLITE_OPEN_READWRITE).Execute(statements); }
@@ -141,7 +142,7 @@ TEST_F(LanguageOrderTest, AFilterFindsByTheRulesOfTheLanguage) {
   SwitchTo(kTurkish);
   EXPECT_EQ(Explorer().Filter(), "isp");
   EXPECT_THAT(Names(), ElementsAre()) << "the name begins with the other letter";
-  Explorer().SetFilter("ısp");
+  Explorer().SetFilter(ToWx("ısp"));
   EXPECT_THAT(Names(), ElementsAre("Isparta"));
   SwitchTo(kEnglish);
   EXPECT_THAT(Names(), ElementsAre());
