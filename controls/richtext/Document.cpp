@@ -6,6 +6,7 @@
 #include "backend/corvane/document/DocumentHtml.h"
 #include "backend/corvane/document/SanitizeDocument.h"
 #include "backend/errors/Error.h"
+#include "controls/richtext/CellFonts.h"
 #include "controls/richtext/RichEditor.h"
 #include "core/ErrorHandling.h"
 
@@ -21,18 +22,6 @@ void RegisterXml() {
     wxRichTextBuffer::AddHandler(new wxRichTextXMLHandler);
 }
 
-/// Gives the paragraphs of a table's cells the font of the text where they have none.
-void CompleteCells(const wxRichTextTable& table, const wxRichTextAttr& base) {
-  for (int cell = 0; cell < table.GetRowCount() * table.GetColumnCount(); ++cell) {
-    const auto* box = table.GetCell(cell / table.GetColumnCount(), cell % table.GetColumnCount());
-    for (auto* node = box->GetChildren().GetFirst(); node; node = node->GetNext()) {
-      wxRichTextAttr& format = node->GetData()->GetAttributes();
-      if (!format.HasFontPointSize()) format.SetFontPointSize(base.GetFontSize());
-      if (!format.HasFontFaceName()) format.SetFontFaceName(base.GetFontFaceName());
-    }
-  }
-}
-
 /// After loading: the space around the text, and for tables without a font of their own that of the text,
 /// which they do not take by themselves.
 void CompleteStyle(RichEditor& editor) {
@@ -43,9 +32,7 @@ void CompleteStyle(RichEditor& editor) {
     if (!paragraph) continue;
     for (auto* part = paragraph->GetChildren().GetFirst(); part; part = part->GetNext()) {
       auto* table = dynamic_cast<wxRichTextTable*>(part->GetData());
-      if (!table) continue;
-      CompleteCells(*table, editor.GetBasicStyle());
-      if (table->GetAttributes().HasFontPointSize()) continue;
+      if (!table || table->GetAttributes().HasFontPointSize()) continue;
       wxRichTextAttr format = editor.GetBasicStyle();
       format.GetTextBoxAttr() = wxTextBoxAttr();
       wxRichTextApplyStyle(format, table->GetAttributes());
@@ -96,6 +83,7 @@ void Document::Show(const std::string& xml) {
     if (!buffer.LoadFile(stream, wxRICHTEXT_TYPE_XML))
       throw Error(ErrorNumber::Unexpected, "the rich-text component refused a document");
     CompleteStyle(*editor_);
+    GiveCellsFont(*editor_);
     buffer.Invalidate(wxRICHTEXT_ALL);
   });
 }
@@ -103,7 +91,10 @@ void Document::Show(const std::string& xml) {
 std::string Document::Save() const try {
   RegisterXml();
   wxMemoryOutputStream stream;
-  if (!editor_->GetBuffer().SaveFile(stream, wxRICHTEXT_TYPE_XML))
+  TakeCellsFont(*editor_);
+  const bool isWritten = editor_->GetBuffer().SaveFile(stream, wxRICHTEXT_TYPE_XML);
+  GiveCellsFont(*editor_);
+  if (!isWritten)
     throw Error(ErrorNumber::Unexpected, "the rich-text component could not write its document");
   std::string xml(stream.GetSize(), '\0');
   stream.CopyTo(xml.data(), xml.size());

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "backend/tessaline/Services.h"
+#include "controls/richtext/CellFonts.h"
 #include "controls/richtext/GridLines.h"
 #include "controls/richtext/RichUnits.h"
 #include "core/ErrorHandling.h"
@@ -93,12 +94,14 @@ void RichEditor::SetLayoutDirection(wxLayoutDirection) {
 void RichEditor::Undo() {
   LeaveCells();
   wxRichTextCtrl::Undo();
+  GiveCellsFont(*this);
   TellChange();
 }
 
 void RichEditor::Redo() {
   LeaveCells();
   wxRichTextCtrl::Redo();
+  GiveCellsFont(*this);
   TellChange();
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "controls/richtext/CellFonts.h"
 #include "controls/richtext/RichEditor.h"
 
 namespace mindloft {
@@ -54,6 +55,7 @@ void ChangeTable(RichEditor& editor, Change change) {
   editor.LeaveCells();
   editor.SelectNone();
   change(place);
+  GiveCellsFont(editor);
   editor.LayoutContent();
   GoTo(editor, place);
   editor.Refresh();
@@ -99,6 +101,7 @@ void PutTable(RichEditor& editor, int rows, int columns) {
   wxRichTextAttr table;
   table.GetTextBoxAttr().GetWidth().SetValue(kWholeWidth, wxTEXT_ATTR_UNITS_PERCENTAGE);
   if (auto* written = editor.WriteTable(rows, columns, table, CellLook())) {
+    GiveCellsFont(editor);
     editor.LayoutContent();
     GoTo(editor, {written, 0, 0});
   }

@@ -25,7 +25,7 @@ constexpr const char* kDocument =
 /// Prints on the printer of scripts/with-printer.sh.
 class RealPrintingTest : public RichTextFixture {
  protected:
-  /// What came to the printer: whole, for the last line of a job is this.
+  /// What came to the printer, as soon as that is whole.
   std::string Print(const PageSettings& page) {
     const char* printed = std::getenv("MINDLOFT_PRINTED");
     if (!printed) throw std::runtime_error("run it with scripts/with-printer.sh");
@@ -35,7 +35,8 @@ class RealPrintingTest : public RichTextFixture {
     WaitFor(
         [&] {
           job = platform::ReadWholeFile(printed).value_or("");
-          return job.find("%%EOF") != std::string::npos;
+          const auto trailer = job.find("\n%%Trailer");
+          return trailer != std::string::npos && job.find("%%EOF", trailer) != std::string::npos;
         },
         "the print job");
     return job;
