@@ -224,7 +224,7 @@ TEST_F(ObjectCommandsTest, WhatAnotherConsoleHasDeletedIsToldAndNothingElseHappe
   SelectRow("Readers");
   const auto groups = other.Domain(domainKey)->DGroups();
   const auto group = groups->Item(Explorer().SelectedListRows().front().key.ToStdString())->Stored();
-  groups->Delete({{group.id, group.version}});
+  groups->Delete({{group.id, group.version}}, {});
   for (const char* command : {"mnuFileProperties", "mnuFileDelete"}) {
     modal.ExpectMessage(60041, wxID_OK);
     Run(command);
