@@ -166,7 +166,7 @@ TEST_F(PickerTest, OrdersAndFindsByTheRulesOfTheLanguage) {
     EXPECT_THAT(search(user, "isp"), ElementsAre("Isparta"));
     switchTo(1055);
     EXPECT_THAT(Listed(user), IsEmpty()) << "it begins with the other letter";
-    EXPECT_THAT(search(user, "\u0131sp"), ElementsAre("Isparta"));
+    EXPECT_THAT(search(user, ToWx("\u0131sp")), ElementsAre("Isparta"));
     search(user, {});
     Select(user, {"Isparta"});
     switchTo(2052);
