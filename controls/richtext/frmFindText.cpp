@@ -54,9 +54,17 @@ frmFindText::frmFindText(RichTextControl& control, bool replaces, const wxString
   txtFind->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { SetButtonStatus(); });
   Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { CloseWindow(); });
   LoadInfoOnForm();
-  if (replaces) SetTitle(GetResource().GetString(kReplaceTitle));
+  language_ = GetRefresh()->OnNotifyLanguage(
+      [this] { Guarded("frmFindText", "Refresh_NotifyLanguage", [this] { LoadInfoOnForm(); }); });
   SetButtonStatus();
   txtFind->SetFocus();
+}
+
+void frmFindText::LoadInfoOnForm() try {
+  FormDialog::LoadInfoOnForm();
+  if (replaces_) SetTitle(GetResource().GetString(kReplaceTitle));
+} catch (...) {
+  mindloft::Raise("frmFindText", "LoadInfoOnForm");
 }
 
 void frmFindText::Open() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/richtext/FindText.h"
+#include "core/Refresh.h"
 #include "core/forms/Form.h"
 
 class wxButton;
@@ -20,6 +21,7 @@ class frmFindText : public FormDialog {
 
   /// Shows it; it destroys itself when it is closed.
   void Open();
+  void LoadInfoOnForm() override;
 
  private:
   void cmdFind_Click();
@@ -40,6 +42,7 @@ class frmFindText : public FormDialog {
   wxButton* cmdReplace = nullptr;
   wxButton* cmdReplaceAll = nullptr;
   bool replaces_;
+  Refresh::Subscription language_;
 };
 
 }  // namespace mindloft

@@ -10,7 +10,6 @@
 #include "tests/mainwindow/MainWindowTest.h"
 #include "tests/support/gui/FormLooks.h"
 #include "tests/support/gui/ModalDriver.h"
-#include "tests/support/gui/ShownTexts.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -35,10 +34,7 @@ class LanguageSwitchTest : public MainWindowTest {
     return dynamic_cast<const wxTopLevelWindow&>(user.Form());
   }
   static void LookAt(const wxTopLevelWindow& form, std::size_t least) {
-    SCOPED_TRACE(form.GetName().utf8_string());
-    ExpectFits(form);
-    ExpectTextsOfLanguage(form, least, {"Quotation"});
-    EXPECT_EQ(form.GetLayoutDirection() == wxLayout_RightToLeft, GetResource().IsRightToLeft());
+    ExpectLooks(form, least, {"Quotation"});
   }
   /// Opens the form once for each of its pages, looks at the page in each language and leaves.
   void LookAtPages(const char* form, const char* leave, const char* notebook, std::size_t least,

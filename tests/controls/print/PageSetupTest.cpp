@@ -7,6 +7,7 @@
 #include "controls/print/UserPrintSetup.h"
 #include "core/Refresh.h"
 #include "tests/controls/print/PrintFixture.h"
+#include "tests/support/gui/FormLooks.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -295,6 +296,18 @@ TEST_F(PageSetupTest, FollowsTheLanguageAndKeepsWhatIsEntered) {
     }));
     EXPECT_EQ(chosen_.topMargin, 123);
   }
+}
+
+TEST_F(PageSetupTest, FitsInEveryLanguage) {
+  PageSettings settings;
+  // The margins do not fit: the longest hint is told too.
+  settings.leftMargin = 1500;
+  settings.rightMargin = 1500;
+  EXPECT_FALSE(Show(settings, [](User& user) {
+    const auto& form = dynamic_cast<const wxTopLevelWindow&>(user.Form());
+    InEveryLanguage([&] { ExpectLooks(form, 15); });
+    user.Click("CmdCancel");
+  }));
 }
 
 }  // namespace

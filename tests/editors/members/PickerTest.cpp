@@ -13,6 +13,7 @@
 #include "editors/members/frmListUser.h"
 #include "editors/members/frmSelectUnit.h"
 #include "tests/editors/members/MembersFixture.h"
+#include "tests/support/gui/FormLooks.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -178,6 +179,19 @@ TEST_F(PickerTest, OrdersAndFindsByTheRulesOfTheLanguage) {
     switchTo(1033);
     user.Click("cmdCancel");
   });
+}
+
+TEST_F(PickerTest, FitInEveryLanguage) {
+  const MemberItems none;
+  const auto look = [](User& user) {
+    const auto& form = dynamic_cast<const wxTopLevelWindow&>(user.Form());
+    InEveryLanguage([&] { ExpectLooks(form, 7); });
+    user.Click("cmdCancel");
+  };
+  Pick(UsersNotAccessible, none, look);
+  ModalDriver modal;
+  modal.ExpectForm("frmSelectUnit", look);
+  frmSelectUnit(nullptr).Display({Server().Users()->Item(ToUtf8(IdOf("plain")))});
 }
 
 TEST_F(PickerTest, MarksWhoLacksAPrivilege) {

@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 
 #include "backend/tessaline/Text.h"
+#include "editors/frmConflict.h"
 #include "tests/editors/user/UserDetailFixture.h"
+#include "tests/support/gui/FormLooks.h"
 
 namespace mindloft::test {
 
@@ -46,6 +48,16 @@ TEST_F(UserConflictTest, ChangesOfDifferentFieldsAreMerged) {
   EXPECT_EQ(Stored("anna").telephone, "123");
   EXPECT_NE(Named("anna")->RoleIds(), "");
   EXPECT_THAT(GroupsOf("anna"), ElementsAre("Readers", "Writers"));
+}
+
+TEST_F(UserConflictTest, TheQuestionFitsInEveryLanguage) {
+  ExpectLooksOpened(modal_, "frmConflict", "cmdBack", 9, [] {
+    const Error conflict(ErrorNumber::Conflict, {}, {"anna", "admin", "2026-01-01T10:00:00Z"});
+    std::vector<FieldDifference> differences;
+    for (const int label : {59306, 59307, 59308, 59414, 61604})
+      differences.push_back({GetResource().GetString(label), wxString('m', 100), "theirs"});
+    EXPECT_EQ(frmConflict(nullptr, conflict, differences).Ask(), ConflictChoice::GoBack);
+  });
 }
 
 TEST_F(UserConflictTest, TheUserDecidesAboutFieldsThatBothChanged) {

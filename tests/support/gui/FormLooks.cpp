@@ -21,6 +21,8 @@
 
 #include "backend/tessaline/Services.h"
 #include "core/Refresh.h"
+#include "tests/support/gui/ModalDriver.h"
+#include "tests/support/gui/ShownTexts.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -179,6 +181,24 @@ void ExpectFits(const wxTopLevelWindow& form) {
     bar.Add(frame->GetMenuBar()->GetMenuLabel(menu));
     LookAt(*frame->GetMenuBar()->GetMenu(menu));
   }
+}
+
+void ExpectLooks(const wxTopLevelWindow& form, std::size_t least, const std::set<wxString>& stored) {
+  SCOPED_TRACE(form.GetName().utf8_string());
+  ExpectFits(form);
+  ExpectTextsOfLanguage(form, least, stored);
+  EXPECT_EQ(form.GetLayoutDirection() == wxLayout_RightToLeft, GetResource().IsRightToLeft());
+}
+
+void ExpectLooksOpened(ModalDriver& modal, const char* name, const char* leave, std::size_t least,
+                       const std::function<void()>& open) {
+  InEveryLanguage([&] {
+    modal.ExpectForm(name, [&](User& user) {
+      ExpectLooks(dynamic_cast<const wxTopLevelWindow&>(user.Form()), least);
+      user.Click(leave);
+    });
+    open();
+  });
 }
 
 }  // namespace mindloft::test
