@@ -27,18 +27,19 @@ wxString NumberPicture::Format(double number) const {
   return (minus ? "-" : "") + section.Format(number);
 }
 
-std::optional<double> NumberPicture::Read(const wxString& text) const {
-  if (IsBlank()) return ReadNumber(text);
+std::optional<double> NumberPicture::Read(const wxString& text, LoneComma comma) const {
+  if (sections_[Positive].IsGrouped()) comma = LoneComma::Groups;
+  if (IsBlank()) return ReadNumber(text, comma);
   // Exact texts first: the sections' literals may look like parts of a number.
   wxString rest;
   if (!sections_[Zero].IsEmpty() && text == sections_[Zero].Format(0)) return 0;
-  if (const auto number = sections_[Positive].Read(text)) return number;
+  if (const auto number = sections_[Positive].Read(text, comma)) return number;
   if (!sections_[Negative].IsEmpty()) {
-    if (const auto number = sections_[Negative].Read(text)) return -std::fabs(*number);
+    if (const auto number = sections_[Negative].Read(text, comma)) return -std::fabs(*number);
   } else if (text.StartsWith("-", &rest)) {
-    if (const auto number = sections_[Positive].Read(rest)) return -std::fabs(*number);
+    if (const auto number = sections_[Positive].Read(rest, comma)) return -std::fabs(*number);
   }
-  return ReadNumber(text);
+  return ReadNumber(text, comma);
 }
 
 }  // namespace mindloft

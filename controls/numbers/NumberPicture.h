@@ -33,8 +33,9 @@ class NumberPicture {
   const wxString& Text() const { return text_; }
   /// Nothing is shown of what is no number (infinity).
   wxString Format(double number) const;
-  /// The number that a text shows: one that this picture has made, or any that ReadNumber knows.
-  std::optional<double> Read(const wxString& text) const;
+  /// The number that a text shows: one that this picture has made, or any that ReadNumber knows. Where the
+  /// picture shows groups, a comma is always one's sign.
+  std::optional<double> Read(const wxString& text, LoneComma comma = LoneComma::Groups) const;
 
  private:
   bool IsBlank() const { return sections_[Positive].IsEmpty(); }

@@ -43,11 +43,26 @@ std::optional<wxString> WithoutGrouping(const wxString& text) {
   return plain;
 }
 
+bool AreDigits(const wxString& text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), IsDigit);
+}
+
+/// Whether the number has one comma, and that cannot group its digits.
+bool HasDecimalComma(const wxString& text) {
+  constexpr std::size_t kGroup = 3;
+  wxString decimals;
+  wxString whole = text.BeforeFirst(',', &decimals);
+  if (whole.StartsWith("-") || whole.StartsWith("+")) whole.erase(0, 1);
+  if (!AreDigits(whole) || !AreDigits(decimals)) return false;
+  return decimals.length() != kGroup || whole.length() > kGroup || whole[0] == '0';
+}
+
 /// The text of one number without blanks around it; nothing when it is blank.
-std::optional<wxString> Plain(const wxString& text) {
+std::optional<wxString> Plain(const wxString& text, LoneComma comma) {
   wxString trimmed = NarrowText(text);
   trimmed.Trim(true).Trim(false);
   if (trimmed.empty()) return std::nullopt;
+  if (comma == LoneComma::Decimals && HasDecimalComma(trimmed)) trimmed.Replace(",", ".");
   return WithoutGrouping(trimmed);
 }
 
@@ -56,8 +71,8 @@ constexpr double kGreatest = std::numeric_limits<std::int32_t>::max();
 
 }  // namespace
 
-std::optional<double> ReadNumber(const wxString& text) {
-  const auto plain = Plain(text);
+std::optional<double> ReadNumber(const wxString& text, LoneComma comma) {
+  const auto plain = Plain(text, comma);
   if (!plain) return std::nullopt;
   try {
     return GetConvert().ToDouble(*plain);

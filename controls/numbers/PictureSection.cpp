@@ -108,7 +108,7 @@ void PictureSection::FormatFraction(wxString& result, std::size_t index, const s
   if (index < std::max(significant, leastFraction_)) result += digits[index];
 }
 
-std::optional<double> PictureSection::Read(const wxString& text) const {
+std::optional<double> PictureSection::Read(const wxString& text, LoneComma comma) const {
   const auto first = std::find_if(tokens_.begin(), tokens_.end(),
                                   [](const Token& token) { return token.kind != Kind::Literal; });
   if (first == tokens_.end()) return std::nullopt;
@@ -118,7 +118,7 @@ std::optional<double> PictureSection::Read(const wxString& text) const {
   if (text.length() < before.length() + after.length()) return std::nullopt;
   wxString digits;
   if (!text.StartsWith(before, &digits) || !digits.EndsWith(after, &digits)) return std::nullopt;
-  const auto shown = ReadNumber(digits);
+  const auto shown = ReadNumber(digits, comma);
   if (!shown) return std::nullopt;
   const double number = shift_ > 0 ? *shown / std::pow(10.0, shift_) : *shown * std::pow(10.0, -shift_);
   if (!std::isfinite(number)) return std::nullopt;

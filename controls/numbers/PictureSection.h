@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "controls/numbers/NumberText.h"
+
 namespace mindloft {
 
 /// One section of a number picture; NumberPicture tells the language.
@@ -23,7 +25,9 @@ class PictureSection {
   wxString Format(double number) const;
   /// The number whose format reads so; nothing when the literals around the digits differ, or the digits are
   /// no number.
-  std::optional<double> Read(const wxString& text) const;
+  std::optional<double> Read(const wxString& text, LoneComma comma) const;
+  /// Whether it shows groups of digits.
+  bool IsGrouped() const { return grouped_; }
 
  private:
   enum class Kind { Literal, Digit, Zero, Point };

@@ -56,7 +56,7 @@ double ucMaskedNumber::Number() const {
 }
 
 std::optional<double> ucMaskedNumber::Read(const wxString& text) const {
-  auto number = format_.Read(text);
+  auto number = format_.Read(text, decimalDigits_ < 1 ? LoneComma::Groups : LoneComma::Decimals);
   // As many decimals as there are units: without what the multiplication leaves behind them.
   if (number && unitsPerShown_ > 1) number = std::round(*number * unitsPerShown_);
   return number;

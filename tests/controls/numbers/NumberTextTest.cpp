@@ -61,6 +61,12 @@ TEST_F(NumberTextTest, ReadsWhatPeopleTypeAndNothingElse) {
     EXPECT_EQ(ReadNumber(wxString::FromUTF8(each.text)), each.number) << each.text;
   EXPECT_EQ(ReadNumber(wxString('9', 100000)), std::nullopt);
   EXPECT_EQ(ReadNumber(wxString('0', 900)), 0);
+  const Case commas[] = {
+      {"29,7", 29.7},  {"-1,5", -1.5},      {"1234,567", 1234.567}, {"0,125", 0.125},    {"1,2345", 1.2345},
+      {"1,234", 1234}, {"-12,345", -12345}, {"1,234,5", 12345},     {"1,234.5", 1234.5}, {"1,", 1},
+      {",5", {}},      {"1,5e2", 1500},     {"29,7mm", {}}};
+  for (const Case& each : commas)
+    EXPECT_EQ(ReadNumber(wxString::FromUTF8(each.text), LoneComma::Decimals), each.number) << each.text;
   const platform::FakeSystemLocale japanese(1041);
   EXPECT_EQ(ReadNumber(L"\xFF0D\xFF11\xFF0C\xFF12\xFF13\xFF0E\xFF15"), -123.5);
 }
