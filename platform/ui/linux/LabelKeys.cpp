@@ -24,16 +24,11 @@ const wxStaticText* LabelOf(const GtkWidget* widget) {
   return nullptr;
 }
 
-wxWindow* FirstThatTakesKeys(wxWindow* window) {
-  while (window && !window->CanAcceptFocusFromKeyboard()) window = window->GetNextSibling();
-  return window;
-}
-
 gboolean FollowLabel(GtkLabel* widget, gboolean cycling) {
   // The toolkit leads to widgets that take the focus themselves only: past a control made of several, to
   // whatever stands behind it.
   if (const wxStaticText* label = LabelOf(GTK_WIDGET(widget))) {
-    if (wxWindow* next = FirstThatTakesKeys(label->GetNextSibling())) next->SetFocusFromKbd();
+    if (wxWindow* next = ControlBehind(*label)) next->SetFocusFromKbd();
     return TRUE;
   }
   gboolean result = FALSE;
