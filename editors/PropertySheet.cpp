@@ -114,6 +114,8 @@ int PropertySheet::Open() {
   if (tabs_) {
     tabs_->ChangeSelection(0);
     ShowPage(0);
+    // Some desktops would begin at the tabs, where nothing can be typed.
+    tabs_->GetPage(0)->SetFocus();
   } else {
     SetButtonStatus();
   }

@@ -82,6 +82,17 @@ TEST_F(UserDetailTest, StoresWhatWasEditedAndStaysOpen) {
   EXPECT_FALSE(Stored("anna").enabled);
 }
 
+TEST_F(UserDetailTest, TheKeyboardBeginsAtTheName) {
+  Edit(Server().Users()->Add(), [](User& user) {
+    const auto isInName = [&user] {
+      wxWindow* focus = wxWindow::FindFocus();
+      return focus && user.Find("txtName").IsDescendant(focus);
+    };
+    WaitFor(isInName, "the focus in the name");
+    user.Click("cmdCancel");
+  });
+}
+
 TEST_F(UserDetailTest, CancelDropsWhatWasEdited) {
   const auto anna = Named("anna");
   EXPECT_EQ(Edit(anna,
