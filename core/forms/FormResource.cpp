@@ -40,7 +40,7 @@
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Text.h"
 #include "platform/EmbeddedFile.h"
-#include "platform/ui/LabelKeys.h"
+#include "platform/ui/AccessKeys.h"
 
 namespace mindloft {
 namespace {
@@ -62,7 +62,7 @@ FormResource& FormResource::Get() {
 }
 
 FormResource::FormResource() : wxXmlResource(wxXRC_NO_RELOADING) {
-  platform::LeadLabelKeys();
+  platform::LeadAccessKeys();
   // Not all handlers of the toolkit: each costs start-up time, and some pull whole libraries in.
   AddHandlers<wxDialogXmlHandler, wxFrameXmlHandler, wxPanelXmlHandler, wxScrolledWindowXmlHandler,
               wxSplitterWindowXmlHandler, wxNotebookXmlHandler>(*this);

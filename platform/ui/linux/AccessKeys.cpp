@@ -1,4 +1,4 @@
-#include "platform/ui/LabelKeys.h"
+#include "platform/ui/AccessKeys.h"
 
 #include <gtk/gtk.h>
 #include <wx/stattext.h>
@@ -38,7 +38,7 @@ gboolean FollowLabel(GtkLabel* widget, gboolean cycling) {
 
 }  // namespace
 
-void LeadLabelKeys() {
+void LeadAccessKeys() {
   static bool led = false;
   if (led) return;
   led = true;

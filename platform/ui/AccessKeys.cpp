@@ -1,4 +1,4 @@
-#include "platform/ui/LabelKeys.h"
+#include "platform/ui/AccessKeys.h"
 
 #include <wx/window.h>
 
