@@ -8,6 +8,7 @@
 #include "backend/tessaline/GroupedNumber.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
+#include "controls/RegisterControls.h"
 #include "controls/explorer/ctExplorer.h"
 #include "controls/rows/DirectoryList.h"
 #include "controls/rows/UserRows.h"
@@ -19,7 +20,7 @@
 
 namespace mindloft {
 
-frmDUserAdd::frmDUserAdd(wxWindow* owner) : FormDialog(owner, "frmDUserAdd") {
+frmDUserAdd::frmDUserAdd(wxWindow* owner) : FormDialog(WithControls(owner), "frmDUserAdd") {
   ctUser = Find<ctExplorer>("ctUser");
   cmdOK = Find<wxButton>("cmdOK");
   SetButtons("cmdOK", "cmdCancel");

@@ -318,4 +318,33 @@ TEST_F(DomainDialogsTest, ALongChangeShowsItselfOnlyWhenItIsLong) {
   EXPECT_FALSE(window());
 }
 
+TEST_F(DomainDialogsTest, ALongChangeTakesTheMouseAboveAModalForm) {
+  modal_.ExpectForm("frmDUserAdd", [&](User& sheet) {
+    bool cancelled = false;
+    EXPECT_FALSE(
+        RunLongChange(&sheet.Form(), "long", std::chrono::milliseconds(0), [&](const Progress& progress) {
+          wxUIActionSimulator mouse;
+          bool clicked = false;
+          WaitFor(
+              [&] {
+                if (!progress(1, 2)) return cancelled = true;
+                auto* window = wxWindow::FindWindowByName("frmDeleteKDomainProgress");
+                auto* button = window ? wxWindow::FindWindowByName("cmdCancel", window) : nullptr;
+                if (!clicked && button && button->IsShownOnScreen()) {
+                  Settle();
+                  mouse.MouseMove(button->GetScreenRect().GetPosition() + button->GetSize() / 2);
+                  mouse.MouseClick();
+                  clicked = true;
+                }
+                return false;
+              },
+              "the click on Cancel");
+          throw Error(ErrorNumber::Cancelled);
+        }));
+    EXPECT_TRUE(cancelled);
+    sheet.Click("cmdCancel");
+  });
+  frmDUserAdd(nullptr).OpenWindow(Alpha());
+}
+
 }  // namespace mindloft::test
