@@ -41,6 +41,18 @@ void CompleteStyle(RichEditor& editor) {
   }
 }
 
+/// The toolkit's stream into memory makes room for each piece alone: a thousand pages would take minutes.
+class TextStream : public wxOutputStream {
+ public:
+  std::string text;
+
+ protected:
+  std::size_t OnSysWrite(const void* piece, std::size_t size) override {
+    text.append(static_cast<const char*>(piece), size);
+    return size;
+  }
+};
+
 int MessageOf(DocumentState state) {
   switch (state) {
     case DocumentState::Broken:
@@ -90,15 +102,13 @@ void Document::Show(const std::string& xml) {
 
 std::string Document::Save() const try {
   RegisterXml();
-  wxMemoryOutputStream stream;
+  TextStream stream;
   TakeCellsFont(*editor_);
   const bool isWritten = editor_->GetBuffer().SaveFile(stream, wxRICHTEXT_TYPE_XML);
   GiveCellsFont(*editor_);
   if (!isWritten)
     throw Error(ErrorNumber::Unexpected, "the rich-text component could not write its document");
-  std::string xml(stream.GetSize(), '\0');
-  stream.CopyTo(xml.data(), xml.size());
-  SafeDocument safe = Corvane::SanitizeDocument(xml);
+  SafeDocument safe = Corvane::SanitizeDocument(stream.text);
   if (safe.state == DocumentState::TooLarge) throw Error(ErrorNumber::DocumentTooLarge);
   if (safe.state == DocumentState::Broken)
     throw Error(ErrorNumber::Unexpected, "the rich-text component wrote a broken document");

@@ -19,9 +19,9 @@ namespace mindloft {
 namespace {
 
 constexpr const char* kLineBreak = "\r\n";
-/// The toolkit measures the lines of a text that runs from right to left some pixels too short or too long:
-/// their first letters must not be cut off.
-constexpr int kSpaceAround = 14;
+/// In tenths of a millimetre: the toolkit measures lines that run from right to left by some letters wrongly,
+/// and the first of them must not be cut off at the edge.
+constexpr int kRoomForFirstLetters = 60;
 
 wxColour DesktopColour() {
   return wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW);
@@ -117,7 +117,8 @@ void UserPreview::ApplyDistances(const Corvane::StyleFormat& format, wxRichTextA
   const auto scaled = [](const std::string& text, int unit) { return GetIntValue(ToWx(text)) * unit; };
   const int width = GetFontWidth(), height = GetFontHeight();
   const int left = std::max(0, scaled(format.leftIndent, width));
-  look.SetRightIndent(std::max(0, scaled(format.rightIndent, width)));
+  const int right = std::max(0, scaled(format.rightIndent, width));
+  look.SetRightIndent(right + (GetResource().IsRightToLeft() ? kRoomForFirstLetters : 0));
   const int firstLine = std::max(0, left + scaled(format.firstLineIndent, width));
   look.SetLeftIndent(firstLine, left - firstLine);
   look.SetParagraphSpacingBefore(std::max(0, scaled(format.spaceBefore, height)));
@@ -132,7 +133,6 @@ void UserPreview::ApplyBackground(const Corvane::StyleFormat& format) {
 void UserPreview::InsertText(const wxRichTextAttr& look) {
   wxString text = previewText_;
   text.Replace(kLineBreak, "\n");
-  picPreview->SetMargins(kSpaceAround);
   picPreview->WriteText(text);
   // Written in a style, the last paragraph would not take part in it.
   picPreview->SetStyleEx(picPreview->GetBuffer().GetOwnRange(), look, wxRICHTEXT_SETSTYLE_NONE);
