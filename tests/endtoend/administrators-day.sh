@@ -13,10 +13,19 @@ keep_settings
 password='a password for tests'
 members='SELECT u.name FROM group_member JOIN user u ON u.id = user JOIN grp g ON g.id = grp'
 
-# The tree has the keyboard, here and after each of its commands.
-domains_node() { press Home KP_Add Down; }
-roles_node() { press Home KP_Add End Up; }
-users_node() { press Home KP_Add End; }
+# Nodes of the tree, from its top.
+domains_node() {
+  to_work
+  press Home KP_Add Down
+}
+roles_node() {
+  to_work
+  press Home KP_Add End Up
+}
+users_node() {
+  to_work
+  press Home KP_Add End
+}
 domain_node() {
   domains_node
   press KP_Add Down
@@ -29,9 +38,8 @@ domain_users_node() {
   groups_node
   press Down
 }
-# From the tree to the first row of the list, past the search box, and back.
+# From the tree to the first row of the list, past the search box.
 to_list() { press F6 F6 Home; }
-to_tree() { press F6; }
 
 # new_user NAME FULL-NAME
 new_user() {
@@ -167,7 +175,6 @@ see "Confirm deletion"
 press alt+y
 expect_done "SELECT count(*) FROM grp WHERE kind <> 5" 0
 expect_stored "SELECT count(*) FROM group_member" 0
-to_tree
 domain_node
 press Delete
 see "Confirm deletion"

@@ -16,6 +16,8 @@ if [ -e "$programs/mindloft-console.exe" ]; then
   start_program() { exec wine "$programs/$1.exe" "${@:2}"; }
   named_directory=$(winepath -w "$directory")
   next_page=ctrl+Tab
+  # A modifier that goes up while a window comes or goes stays down for Wine.
+  free_modifiers() { xdotool key alt+Control_L; }
   key='HKCU\Software\Ordwell\Mindloft'
   # The settings are the user's: they are put back.
   keep_settings() {
@@ -31,6 +33,7 @@ else
   start_program() { exec "$programs/$1" "${@:2}"; }
   named_directory=$directory
   next_page=ctrl+Next
+  free_modifiers() { :; }
   keep_settings() {
     for name in CONFIG_HOME STATE_HOME DATA_HOME RUNTIME_DIR; do
       mkdir -m 700 "$folder/$name"
@@ -77,7 +80,10 @@ front() {
   [ "$window" != "$focus" ] || xdotool getwindowname "$window" 2>/dev/null || true
 }
 is_front() { [ "$(front)" = "$1" ]; }
-see() { wait_until "the window \"$1\"" is_front "$1"; }
+see() {
+  wait_until "the window \"$1\"" is_front "$1"
+  free_modifiers
+}
 see_main() { see "Mindloft Administration"; }
 
 # For what a window tells without another one: it grows by the message.
@@ -135,6 +141,9 @@ start_console() {
   console=$!
   see "Mindloft Administration – Log in"
 }
+# Gives the tree the keyboard by a click below its nodes. While a window comes or goes some desktops move the keyboard
+# more than once, and a key that comes in between is lost; what comes after a click is not.
+to_work() { click_at 10 60; }
 # log_in NAME PASSWORD
 log_in() {
   start_console

@@ -63,6 +63,9 @@ class AccessKeyFilter : public wxEventFilter {
     const bool isLabel = owner && IsOneOf<wxStaticText>(*owner);
     wxWindow* target = isLabel ? ControlBehind(*owner) : owner;
     if (!target) return Event_Skip;
+    // The system must see the key, or it takes Alt alone for the way into the menu.
+    DefWindowProcW(GetActiveWindow(), WM_SYSKEYDOWN, key.GetRawKeyCode(),
+                   static_cast<LPARAM>(key.GetRawKeyFlags()));
     target->SetFocusFromKbd();
     // Not from here: what the button does may take long, and the system waits for the answer to the key.
     if (!isLabel) PostMessageW(target->GetHWND(), BM_CLICK, 0, 0);
