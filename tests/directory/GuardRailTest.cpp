@@ -82,10 +82,11 @@ TEST_F(GuardRailTest, BuiltInGroupsStay) {
   EXPECT_EQ(change([](GroupChange& c) { c.domainPrivileges = 1; }).Number(), ErrorNumber::BuiltInObject);
   EXPECT_EQ(change([](GroupChange& c) { c.description = "Changed"; }).Number(), ErrorNumber{});
   EXPECT_EQ(change([](GroupChange& c) { c.name = "Administrators"; }).Number(), ErrorNumber{});
-  EXPECT_EQ(NumberOf([&] {
-              directory_->DeleteGroups(admin_, {{ordinary.id, ordinary.version}, {group.id, group.version}}, {});
-            }),
-            ErrorNumber::BuiltInObject);
+  EXPECT_EQ(
+      NumberOf([&] {
+        directory_->DeleteGroups(admin_, {{ordinary.id, ordinary.version}, {group.id, group.version}}, {});
+      }),
+      ErrorNumber::BuiltInObject);
   EXPECT_TRUE(directory_->FindGroup(admin_, ordinary.id)) << "all or none";
   EXPECT_EQ(
       NumberOf([&] { directory_->CreateGroup(admin_, {.domain = domain.id, .kind = 5, .name = "Second"}); }),

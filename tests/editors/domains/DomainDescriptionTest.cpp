@@ -278,8 +278,7 @@ TEST_F(DomainDescriptionTest, KeysWriteAndLeaveAsExpected) {
     auto& editor = Editor(user).Editor();
     editor.SetFocus();
     WaitFor([&] { return editor.HasFocus(); }, "the focus in the text");
-    for (const int key : std::initializer_list<int>{'a', WXK_RETURN, WXK_TAB, 'b'})
-      Press(user, key);
+    for (const int key : std::initializer_list<int>{'a', WXK_RETURN, WXK_TAB, 'b'}) Press(user, key);
     EXPECT_EQ(Editor(user).Text(), "a\n\tb");
     EXPECT_TRUE(editor.HasFocus());
     Press(user, WXK_TAB, wxMOD_RAW_CONTROL);
