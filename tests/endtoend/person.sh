@@ -16,8 +16,22 @@ if [ -e "$programs/mindloft-console.exe" ]; then
   start_program() { exec wine "$programs/$1.exe" "${@:2}"; }
   named_directory=$(winepath -w "$directory")
   next_page=ctrl+Tab
-  # A modifier that goes up while a window comes or goes stays down for Wine.
-  free_modifiers() { xdotool key alt+Control_L; }
+  # Wine loses keys that come while the console works, most of all while a window comes or goes; a modifier that goes
+  # up then stays down. The console has come to rest when it takes no processor time.
+  ticks() { cut -d ' ' -f 14,15 "/proc/$console/stat" 2>/dev/null || true; }
+  is_at_rest() {
+    local before
+    before=$(ticks)
+    sleep 0.25
+    [ "$(ticks)" = "$before" ]
+  }
+  come_to_rest() {
+    [ -n "$console" ] || return 0
+    wait_until "the console to come to rest" is_at_rest
+    xdotool key alt+Control_L
+  }
+  # After a window that was there for a moment only, none may have the keyboard under Wine: a person takes the next.
+  take_if_none() { [ -n "$(front)" ] || xdotool search --onlyvisible --name "^$1\$" windowactivate >/dev/null 2>&1 || true; }
   key='HKCU\Software\Ordwell\Mindloft'
   # The settings are the user's: they are put back.
   keep_settings() {
@@ -33,7 +47,8 @@ else
   start_program() { exec "$programs/$1" "${@:2}"; }
   named_directory=$directory
   next_page=ctrl+Next
-  free_modifiers() { :; }
+  come_to_rest() { :; }
+  take_if_none() { :; }
   keep_settings() {
     for name in CONFIG_HOME STATE_HOME DATA_HOME RUNTIME_DIR; do
       mkdir -m 700 "$folder/$name"
@@ -79,10 +94,14 @@ front() {
   focus=$(xdotool getwindowfocus 2>/dev/null) || return 0
   [ "$window" != "$focus" ] || xdotool getwindowname "$window" 2>/dev/null || true
 }
-is_front() { [ "$(front)" = "$1" ]; }
+is_front() {
+  [ "$(front)" != "$1" ] || return 0
+  take_if_none "$1"
+  return 1
+}
 see() {
   wait_until "the window \"$1\"" is_front "$1"
-  free_modifiers
+  come_to_rest
 }
 see_main() { see "Mindloft Administration"; }
 
@@ -91,7 +110,14 @@ height() { xdotool getactivewindow getwindowgeometry --shell 2>/dev/null | sed -
 remember_height() { height_before=$(height); }
 has_grown() { [ "$(height)" -gt "$height_before" ]; }
 
-press() { xdotool key "$@"; }
+# A person looks at what a key has done before the next one.
+press() {
+  local key
+  for key in "$@"; do
+    xdotool key "$key"
+    come_to_rest
+  done
+}
 write() { xdotool type -- "$1"; }
 # times COUNT KEY
 times() { for _ in $(seq "$1"); do press "$2"; done; }
@@ -143,7 +169,10 @@ start_console() {
 }
 # Gives the tree the keyboard by a click below its nodes. While a window comes or goes some desktops move the keyboard
 # more than once, and a key that comes in between is lost; what comes after a click is not.
-to_work() { click_at 10 60; }
+to_work() {
+  click_at 10 60
+  come_to_rest
+}
 # log_in NAME PASSWORD
 log_in() {
   start_console
@@ -157,7 +186,7 @@ log_in() {
 end_console() {
   local status=0
   see_main
-  press ctrl+q
+  xdotool key ctrl+q
   wait_until "the console's end" has_ended
   wait "$console" || status=$?
   console=
