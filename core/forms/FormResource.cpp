@@ -41,6 +41,7 @@
 #include "backend/tessaline/Text.h"
 #include "platform/EmbeddedFile.h"
 #include "platform/ui/AccessKeys.h"
+#include "platform/ui/Direction.h"
 
 namespace mindloft {
 namespace {
@@ -63,6 +64,7 @@ FormResource& FormResource::Get() {
 
 FormResource::FormResource() : wxXmlResource(wxXRC_NO_RELOADING) {
   platform::LeadAccessKeys();
+  platform::DrawBoxesInTheirDirection();
   // Not all handlers of the toolkit: each costs start-up time, and some pull whole libraries in.
   AddHandlers<wxDialogXmlHandler, wxFrameXmlHandler, wxPanelXmlHandler, wxScrolledWindowXmlHandler,
               wxSplitterWindowXmlHandler, wxNotebookXmlHandler>(*this);
