@@ -99,7 +99,7 @@ class Reading {
     return selection_ ? selection_->CountBefore(order_, query_.order, place) : order_.CountBefore(place);
   }
   std::string Folded(std::string_view text) const { return FoldedText(text, folding_); }
-  /// The positions, ascending, of all users of a set, found in one walk over the order.
+  /// Those users of a set that are listed, by one walk over the order; positions count upwards.
   std::unordered_map<PackedId, std::int64_t> PositionsOf(const IdSet& users) {
     std::unordered_map<PackedId, std::int64_t> positions;
     std::int64_t position = 0;
@@ -268,18 +268,20 @@ std::vector<std::int64_t> UserIndex::PositionsOf(const Query& query, const std::
   sqlite::Snapshot snapshot(impl_->database);
   auto& sorted = impl_->Current(rules);
   Reading reading(sorted, query, rules);
-  IdSet listed;
-  for (const ObjectId user : users)
-    if (IsPacked(user) && reading.Has(static_cast<PackedId>(user))) listed.Add(static_cast<PackedId>(user));
   std::unordered_map<PackedId, std::int64_t> walked;
   const bool walk = std::ssize(users) >= kWorthWalking;
-  if (walk) walked = reading.PositionsOf(listed);
+  if (walk) {
+    IdSet sought;
+    for (const ObjectId user : users)
+      if (IsPacked(user)) sought.Add(static_cast<PackedId>(user));
+    walked = reading.PositionsOf(sought);
+  }
   const auto positionOf = [&](PackedId id) -> std::int64_t {
-    if (!listed.Has(id)) return -1;
     if (walk) {
       const auto found = walked.find(id);
       return found == walked.end() ? -1 : found->second;
     }
+    if (!reading.Has(id)) return -1;
     const auto folded = sorted.Texts().Find(id);
     return folded ? reading.PositionAt(reading.Users().PlaceOf(id, folded->keys[PlaceOf(query.order)])) : -1;
   };

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "backend/directory/store/RecordReader.h"
+
 namespace mindloft {
 
 void DomainCopier::Copy(const DomainCopy& copy, ObjectId target, const Progress& progress) {
@@ -9,11 +11,13 @@ void DomainCopier::Copy(const DomainCopy& copy, ObjectId target, const Progress&
     throw Error(ErrorNumber::TypeMismatch, "members are copied with groups and users only");
   }
   std::int64_t total = 0;
-  if (copy.groups) total += Count("SELECT count(*) FROM grp WHERE domain = ?", copy.source);
-  if (copy.users) total += Count("SELECT count(*) FROM domain_user WHERE domain = ?", copy.source);
+  if (copy.groups) total += CountFor(database_, "SELECT count(*) FROM grp WHERE domain = ?", copy.source);
+  if (copy.users)
+    total += CountFor(database_, "SELECT count(*) FROM domain_user WHERE domain = ?", copy.source);
   if (copy.members) {
-    total += Count("SELECT count(*) FROM group_member WHERE grp IN (SELECT id FROM grp WHERE domain = ?)",
-                   copy.source);
+    total += CountFor(database_,
+                      "SELECT count(*) FROM group_member WHERE grp IN (SELECT id FROM grp WHERE domain = ?)",
+                      copy.source);
   }
   ProgressSteps steps(progress, total);
   if (copy.users) {
@@ -38,13 +42,6 @@ std::vector<ObjectId> DomainCopier::Groups(ObjectId domain) {
   row->BindAll(domain);
   while (row->Step()) ids.push_back(row->Int(0));
   return ids;
-}
-
-std::int64_t DomainCopier::Count(const char* sql, ObjectId domain) {
-  auto count = database_.Prepare(sql);
-  count->BindAll(domain);
-  count->Step();
-  return count->Int(0);
 }
 
 void DomainCopier::CopyUsers(const char* slice, const char* insert, ObjectId source, ObjectId target,

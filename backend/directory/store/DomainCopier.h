@@ -15,7 +15,6 @@ class DomainCopier {
 
  private:
   std::vector<ObjectId> Groups(ObjectId domain);
-  std::int64_t Count(const char* sql, ObjectId domain);
   void CopyUsers(const char* slice, const char* insert, ObjectId source, ObjectId target,
                  ProgressSteps& steps);
 

@@ -1,18 +1,13 @@
 #include "backend/directory/store/DomainRemover.h"
 
 #include "backend/directory/store/ProgressSteps.h"
+#include "backend/directory/store/RecordReader.h"
 #include "backend/directory/store/SlicedRemoval.h"
 
 namespace mindloft {
 
 void DomainRemover::Remove(ObjectId domain, JsonObject& before, const Progress& progress) {
-  std::int64_t users = 0;
-  {
-    auto count = database_.Prepare("SELECT count(*) FROM domain_user WHERE domain = ?");
-    count->BindAll(domain);
-    count->Step();
-    users = count->Int(0);
-  }
+  const std::int64_t users = CountFor(database_, "SELECT count(*) FROM domain_user WHERE domain = ?", domain);
   std::vector<Group> groups = Groups(domain);
   std::vector<std::pair<ObjectId, std::string>> names;
   std::int64_t total = users + std::ssize(groups) + 1;

@@ -139,7 +139,8 @@ GroupRecord GroupStore::Change(const Caller& caller, const GroupChange& change) 
 void GroupStore::Delete(const Caller& caller, const std::vector<ObjectVersion>& groups,
                         const Progress& progress) {
   std::int64_t rows = std::ssize(groups);
-  for (const auto& group : groups) rows += CountMembers(group.id);
+  for (const auto& group : groups)
+    rows += CountFor(parts_.database, "SELECT count(*) FROM group_member WHERE grp = ?", group.id);
   ProgressSteps steps(progress, rows);
   for (const auto& group : groups) {
     const GroupRecord stored = Existing(Find(group.id), "group", group.id);
@@ -148,13 +149,6 @@ void GroupStore::Delete(const Caller& caller, const std::vector<ObjectVersion>& 
     if (stored.builtIn) throw Error(ErrorNumber::BuiltInObject, {}, {stored.name});
     DeleteOne(caller, stored, steps);
   }
-}
-
-std::int64_t GroupStore::CountMembers(ObjectId group) {
-  auto row = parts_.database.Prepare("SELECT count(*) FROM group_member WHERE grp = ?");
-  row->BindAll(group);
-  row->Step();
-  return row->Int(0);
 }
 
 void GroupStore::DeleteOne(const Caller& caller, const GroupRecord& group, ProgressSteps& steps) {

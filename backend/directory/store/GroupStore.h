@@ -29,7 +29,6 @@ class GroupStore {
   GroupRecord Require(const ObjectVersion& group);
 
  private:
-  std::int64_t CountMembers(ObjectId group);
   void DeleteOne(const Caller& caller, const GroupRecord& group, ProgressSteps& steps);
 
   StoreParts parts_;

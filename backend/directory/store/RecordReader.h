@@ -26,6 +26,14 @@ std::vector<Record> ReadRecords(sqlite::Database& database, std::string_view sql
   return records;
 }
 
+/// What a statement counts for one owner, who is its only parameter.
+inline std::int64_t CountFor(sqlite::Database& database, std::string_view sql, ObjectId owner) {
+  auto count = database.Prepare(sql);
+  count->BindAll(owner);
+  count->Step();
+  return count->Int(0);
+}
+
 /// The first record, if there is one.
 template <typename Record>
 std::optional<Record> FirstOf(std::vector<Record> records) {
