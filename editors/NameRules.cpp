@@ -2,13 +2,13 @@
 
 #include "backend/directory/FoldedText.h"
 #include "backend/directory/collation/Collator.h"
-#include "editors/SessionLanguage.h"
+#include "backend/tessaline/Services.h"
 
 namespace mindloft {
 
 NameRules NameRules::OfSession() {
   NameRules rules;
-  rules.rules_ = RulesOf(SessionLanguage());
+  if (const auto connection = GetConnection()) rules.rules_ = RulesOf(connection->Language());
   return rules;
 }
 

@@ -14,17 +14,6 @@ namespace {
 constexpr int kSorting = 61150;
 constexpr int kOrderKept = 61151;  ///< %1 why
 
-/// What was set last, and for whom: another connection knows nothing of it.
-struct Known {
-  std::weak_ptr<Corvane::Connection> connection;
-  int language = 0;
-};
-
-Known& Last() {
-  static Known last;
-  return last;
-}
-
 void TellLater(const Error& error) {
   wxTheApp->CallAfter([error] {
     Guarded("SessionLanguage", "TellLater", [&] { GetMessenger().ShowMessage(kOrderKept, {TextOf(error)}); });
@@ -32,9 +21,8 @@ void TellLater(const Error& error) {
 }
 
 void SetLanguage(const std::shared_ptr<Corvane::Connection>& connection, int language) try {
-  if (RunLongChange(nullptr, GetResource().GetString(kSorting), kPatience,
-                    [&](const Progress& progress) { connection->SetLanguage(language, progress); }))
-    Last() = {connection, language};
+  RunLongChange(nullptr, GetResource().GetString(kSorting), kPatience,
+                [&](const Progress& progress) { connection->SetLanguage(language, progress); });
 } catch (...) {
   ReportOnly("SessionLanguage", "SetLanguage");
   TellLater(CurrentError());
@@ -56,12 +44,6 @@ void SetSessionLanguage() try {
   } while (language != GetResource().CurrentLanguage());
 } catch (...) {
   ShowError("SessionLanguage", "SetSessionLanguage");
-}
-
-int SessionLanguage() {
-  const auto connection = GetConnection();
-  return connection && connection->IsLoggedIn() && Last().connection.lock() == connection ? Last().language
-                                                                                          : 0;
 }
 
 }  // namespace mindloft

@@ -9,7 +9,4 @@ namespace mindloft {
 /// nobody is logged in.
 void SetSessionLanguage();
 
-/// The language whose rules hold in the session; 0: none has been set.
-int SessionLanguage();
-
 }  // namespace mindloft

@@ -49,12 +49,15 @@ bool Connection::Login(const std::string& userName, const std::string& password,
 }
 
 void Connection::SetLanguage(int language, const Progress& progress) {
-  if (IsLoggedIn()) login_->session->Door().SetLanguage(login_->session->id, language, progress);
+  if (!IsLoggedIn()) return;
+  login_->session->Door().SetLanguage(login_->session->id, language, progress);
+  language_ = language;
 }
 
 void Connection::Logout() {
   if (!IsLoggedIn()) return;
   // Whatever the directory answers, this login is over and its file is let go.
+  language_ = 0;
   const auto id = std::exchange(login_->session->id, 0);
   const auto directory = std::move(login_->session->directory);
   directory_.reset();

@@ -59,6 +59,8 @@ class Connection {
   /// Orders and searches names by a language's rules from now on; see Directory::SetLanguage. Nothing happens
   /// when nobody is logged in.
   void SetLanguage(int language, const Progress& progress);
+  /// The language whose rules hold in this login; 0: none has been set.
+  int Language() const { return language_; }
 
   bool IsLoggedIn() const { return login_->session->id != 0; }
   const ConnectionTarget& Target() const { return target_; }
@@ -68,6 +70,7 @@ class Connection {
   DirectoryProvider provider_;
   ConnectionTarget target_, directoryTarget_;
   std::shared_ptr<Directory> directory_;
+  int language_ = 0;
   bool proxyEnabled_ = false;
   std::string proxyIP_, proxyPort_, proxyUser_, proxyPassword_;
   std::int32_t timeout_ = 0;

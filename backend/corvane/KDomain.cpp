@@ -8,6 +8,7 @@
 #include "backend/corvane/MembershipLists.h"
 #include "backend/corvane/Users.h"
 #include "backend/corvane/document/DocumentText.h"
+#include "backend/directory/TextLengths.h"
 #include "backend/errors/Error.h"
 #include "platform/Unicode.h"
 
@@ -43,7 +44,7 @@ SafeDocument KDomain::Document() const {
 
 void KDomain::SetDocument(const std::string& xml) {
   edited_.description = PlainTextOf(xml);
-  edited_.description.resize(platform::BytesOfCharacters(edited_.description, kDescriptionLength));
+  edited_.description.resize(platform::BytesOfCharacters(edited_.description, kTextLength));
   edited_.document = xml;
 }
 

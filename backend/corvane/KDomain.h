@@ -35,8 +35,6 @@ class KDomain {
   std::shared_ptr<Users> DUsers() const;
   std::shared_ptr<Corvane::DGroups> DGroups() const;
   bool IsNew() const { return stored_.id == 0; }
-  /// The longest plain description in characters.
-  static constexpr std::size_t kDescriptionLength = 2000;
   /// What Update of a new domain takes over.
   void CopyFrom(const DomainCopy& copy) { copy_ = copy; }
   void Update(const Progress& progress = {});

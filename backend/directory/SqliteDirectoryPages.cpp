@@ -83,13 +83,7 @@ std::int64_t SqliteDirectoryImpl::FindPrefix(SessionId session, const Query& que
 }
 
 std::int64_t SqliteDirectoryImpl::PositionOf(SessionId session, const Query& query, ObjectId object) {
-  return Read(session, [&](const Caller& caller) {
-    RequireReadable(caller, query.collection);
-    RecordKind kind = KindOf(query.collection);
-    if (kind == RecordKind::User) return index_.PositionOf(query, object, caller.rules);
-    if (kind == RecordKind::Journal && query.filter.empty()) return journal_.PositionOf(object);
-    return windows_.PositionOf(query, object, caller.rules);
-  });
+  return PositionsOf(session, query, {object}).front();
 }
 
 std::vector<std::int64_t> SqliteDirectoryImpl::PositionsOf(SessionId session, const Query& query,
@@ -98,12 +92,8 @@ std::vector<std::int64_t> SqliteDirectoryImpl::PositionsOf(SessionId session, co
     RequireReadable(caller, query.collection);
     const RecordKind kind = KindOf(query.collection);
     if (kind == RecordKind::User) return index_.PositionsOf(query, objects, caller.rules);
-    if (kind != RecordKind::Journal || !query.filter.empty())
-      return windows_.PositionsOf(query, objects, caller.rules);
-    std::vector<std::int64_t> positions;
-    positions.reserve(objects.size());
-    for (const ObjectId object : objects) positions.push_back(journal_.PositionOf(object));
-    return positions;
+    if (kind == RecordKind::Journal && query.filter.empty()) return journal_.PositionsOf(objects);
+    return windows_.PositionsOf(query, objects, caller.rules);
   });
 }
 

@@ -40,8 +40,7 @@
 #include "backend/errors/Error.h"
 #include "backend/tessaline/Text.h"
 #include "platform/EmbeddedFile.h"
-#include "platform/ui/AccessKeys.h"
-#include "platform/ui/Direction.h"
+#include "platform/ui/Toolkit.h"
 
 namespace mindloft {
 namespace {
@@ -63,8 +62,7 @@ FormResource& FormResource::Get() {
 }
 
 FormResource::FormResource() : wxXmlResource(wxXRC_NO_RELOADING) {
-  platform::LeadAccessKeys();
-  platform::DrawBoxesInTheirDirection();
+  platform::MendToolkit();
   // Not all handlers of the toolkit: each costs start-up time, and some pull whole libraries in.
   AddHandlers<wxDialogXmlHandler, wxFrameXmlHandler, wxPanelXmlHandler, wxScrolledWindowXmlHandler,
               wxSplitterWindowXmlHandler, wxNotebookXmlHandler>(*this);

@@ -8,8 +8,4 @@ namespace mindloft::platform {
 /// layout direction, where they do not take it by themselves.
 void ApplyDirectionInside(wxWindow& window);
 
-/// Lets group boxes be drawn rightly in windows that run from right to left. Holds for those that are made
-/// afterwards.
-void DrawBoxesInTheirDirection();
-
 }  // namespace mindloft::platform

@@ -2,7 +2,6 @@
 
 #include "app/frmHidden.h"
 #include "app/modPublic.h"
-#include "editors/SessionLanguage.h"
 #include "mainwindow/CommandLineState.h"
 #include "tests/app/StartFixture.h"
 #include "tests/support/gui/ModalDriver.h"
@@ -65,7 +64,7 @@ TEST_F(MainTest, NamesAreInTheOrderOfTheLanguageBeforeTheWindowOpens) {
         GetConnection()->SetConnectMode(1);
         return GetConnection()->Login(kUser, kPassword);
       };
-      services.showMainWindow = [&] { language = SessionLanguage(); };
+      services.showMainWindow = [&] { language = GetConnection()->Language(); };
       Main({}, services);
       EXPECT_EQ(language, code) << enabled;
     }

@@ -1,4 +1,5 @@
 #include "backend/corvane/document/DocumentText.h"
+#include "backend/directory/TextLengths.h"
 #include "tests/corvane/CorvaneFixture.h"
 
 namespace mindloft::test {
@@ -32,7 +33,7 @@ TEST_F(CollectionTest, ADomainsFormattedDescriptionAndItsPlainBeginning) {
   EXPECT_EQ(document.state, Corvane::DocumentState::Whole);
   EXPECT_EQ(Corvane::PlainTextOf(document.xml), "first\nsecond");
 
-  const std::string letters(Corvane::KDomain::kDescriptionLength - 1, 'x');
+  const std::string letters(kTextLength - 1, 'x');
   const auto formatted = Corvane::DocumentOfPlainText(letters + "e\u0301 and more");
   domain->SetDocument(formatted);
   domain->Update();

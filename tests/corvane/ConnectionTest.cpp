@@ -41,6 +41,18 @@ TEST_F(ConnectionTest, ObjectsEndWithTheirLogin) {
   EXPECT_EQ(server_->Users()->Item(user->Id())->FullName(), "");
 }
 
+TEST_F(ConnectionTest, TheLanguageIsTheLogins) {
+  constexpr int kChinese = 2052;
+  const auto connection = console_->Connection();
+  connection->SetLanguage(kChinese, {});
+  EXPECT_EQ(connection->Language(), kChinese);
+  ASSERT_TRUE(LogIn(*console_));
+  EXPECT_EQ(connection->Language(), 0) << "another login";
+  connection->Logout();
+  connection->SetLanguage(kChinese, {});
+  EXPECT_EQ(connection->Language(), 0) << "nobody's";
+}
+
 TEST_F(ConnectionTest, ALoginEndsTheOneBefore) {
   AddUser("jan", "long password");
   const auto users = server_->Users();

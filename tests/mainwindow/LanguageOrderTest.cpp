@@ -10,7 +10,6 @@
 #include "backend/tessaline/Text.h"
 #include "core/Refresh.h"
 #include "editors/LongChange.h"
-#include "editors/SessionLanguage.h"
 #include "mainwindow/DirectoryTree.h"
 #include "mainwindow/LanguageMenu.h"
 #include "mainwindow/ObjectKindRegistry.h"
@@ -177,10 +176,10 @@ TEST_F(LanguageOrderTest, TheFirstSortingCanBeCancelledAndDoneLater) {
     ExpectTexts();
     EXPECT_EQ(Names(), names);
     EXPECT_EQ(FocusedKey(), focused);
-    EXPECT_EQ(SessionLanguage(), 0);
+    EXPECT_EQ(GetConnection()->Language(), 0);
   }
   GetRefresh()->NotifyLanguage();
-  EXPECT_EQ(SessionLanguage(), kArabic);
+  EXPECT_EQ(GetConnection()->Language(), kArabic);
   EXPECT_LT(RowOf("عمر"), RowOf("admin"));
   EXPECT_EQ(FocusedKey(), focused);
 }

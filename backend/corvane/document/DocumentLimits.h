@@ -2,12 +2,15 @@
 
 #include <cstddef>
 
+#include "backend/directory/TextLengths.h"
+
 namespace mindloft::Corvane {
 
 // What a stored document may hold. The limits leave room for a thousand pages, and keep a hostile document
 // from taking the memory or the time of whoever opens it.
 
-inline constexpr std::size_t kMostDocumentBytes = std::size_t{32} << 20;
+/// What the directory can store: a character takes at least one byte.
+inline constexpr std::size_t kMostDocumentBytes = kDocumentLength;
 /// Of a plain text that is taken over: its document is larger.
 inline constexpr std::size_t kMostPlainBytes = kMostDocumentBytes / 8;
 inline constexpr std::size_t kMostParagraphs = 200'000;

@@ -134,23 +134,19 @@ std::int64_t CollectionWindows::FindPrefix(const Query& query, std::string_view 
   return found - rows.begin();
 }
 
-std::int64_t CollectionWindows::PositionOf(const Query& query, ObjectId object, LanguageRules rules) {
-  const auto& rows = Get(query, rules).rows;
-  auto found = std::ranges::find(rows, object, &Row::id);
-  return found == rows.end() ? -1 : found - rows.begin();
-}
-
 std::vector<std::int64_t> CollectionWindows::PositionsOf(const Query& query,
                                                          const std::vector<ObjectId>& objects,
                                                          LanguageRules rules) {
   std::unordered_map<ObjectId, std::int64_t> places;
-  for (const auto& row : Get(query, rules).rows) places.emplace(row.id, std::ssize(places));
+  for (const ObjectId object : objects) places.emplace(object, -1);
+  std::int64_t place = 0;
+  for (const auto& row : Get(query, rules).rows) {
+    if (const auto sought = places.find(row.id); sought != places.end()) sought->second = place;
+    ++place;
+  }
   std::vector<std::int64_t> positions;
   positions.reserve(objects.size());
-  for (const ObjectId object : objects) {
-    const auto found = places.find(object);
-    positions.push_back(found == places.end() ? -1 : found->second);
-  }
+  for (const ObjectId object : objects) positions.push_back(places.at(object));
   return positions;
 }
 

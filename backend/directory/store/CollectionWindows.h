@@ -23,7 +23,6 @@ class CollectionWindows {
   std::vector<ObjectId> Page(const Query& query, std::int64_t first, std::int64_t count, LanguageRules rules);
   std::int64_t FindPrefix(const Query& query, std::string_view prefix, std::int64_t from,
                           LanguageRules rules);
-  std::int64_t PositionOf(const Query& query, ObjectId object, LanguageRules rules);
   std::vector<std::int64_t> PositionsOf(const Query& query, const std::vector<ObjectId>& objects,
                                         LanguageRules rules);
 

@@ -69,9 +69,12 @@ std::vector<JournalRecord> Journal::Read(const std::vector<ObjectId>& ids) {
   return records;
 }
 
-std::int64_t Journal::PositionOf(ObjectId id) {
-  auto [oldest, newest] = Rows();
-  return id >= oldest && id <= newest ? newest - id : -1;
+std::vector<std::int64_t> Journal::PositionsOf(const std::vector<ObjectId>& ids) {
+  const auto [oldest, newest] = Rows();
+  std::vector<std::int64_t> positions;
+  positions.reserve(ids.size());
+  for (const ObjectId id : ids) positions.push_back(id >= oldest && id <= newest ? newest - id : -1);
+  return positions;
 }
 
 }  // namespace mindloft

@@ -40,7 +40,7 @@ class Journal {
   std::vector<JournalRecord> Page(std::int64_t first, std::int64_t count);
   std::vector<JournalRecord> Read(const std::vector<ObjectId>& ids);
   /// -1 when there is no such row.
-  std::int64_t PositionOf(ObjectId id);
+  std::vector<std::int64_t> PositionsOf(const std::vector<ObjectId>& ids);
 
  private:
   struct Range {

@@ -18,7 +18,4 @@ void ApplyDirectionInside(wxWindow& window) {
   SetDirection(window.GetHandle(), GINT_TO_POINTER(mirrored ? GTK_TEXT_DIR_RTL : GTK_TEXT_DIR_LTR));
 }
 
-// They are.
-void DrawBoxesInTheirDirection() {}
-
 }  // namespace mindloft::platform
