@@ -11,6 +11,7 @@
 #include "controls/richtext/GridLines.h"
 #include "controls/richtext/RichUnits.h"
 #include "core/ErrorHandling.h"
+#include "platform/ui/MeasuringDC.h"
 
 namespace mindloft {
 namespace {
@@ -19,6 +20,15 @@ namespace {
 /// rests.
 constexpr long kLargeText = 20'000;
 constexpr int kSpaceAround = 5;
+
+/// When the end of a text has been taken back, the toolkit looks for the paragraph behind it, finds none and
+/// lays out the whole text.
+void KeepInvalidRangeInText(wxRichTextBuffer& buffer) {
+  const wxRichTextRange invalid = buffer.GetInvalidRange();
+  const long end = buffer.GetOwnRange().GetEnd();
+  if (invalid != wxRICHTEXT_ALL && invalid != wxRICHTEXT_NONE && invalid.GetStart() > end)
+    buffer.Invalidate(wxRichTextRange(end, end));
+}
 
 }  // namespace
 
@@ -144,7 +154,11 @@ void RichEditor::DoLayoutBuffer(wxRichTextBuffer& buffer, wxDC& dc, wxRichTextDr
                                 const wxRect& rect, const wxRect& parentRect, int flags) {
   wxRect page = rect;
   if (pageWidth_ > 0) page.width = std::min(page.width, TenthsToPixels(pageWidth_, *this));
-  wxRichTextCtrl::DoLayoutBuffer(buffer, dc, context, page, parentRect, flags);
+  KeepInvalidRangeInText(buffer);
+  const auto measuring = platform::MakeMeasuringDC(*this);
+  measuring->SetFont(dc.GetFont());
+  measuring->SetUserScale(GetScale(), GetScale());
+  wxRichTextCtrl::DoLayoutBuffer(buffer, *measuring, context, page, parentRect, flags);
 }
 
 void RichEditor::PaintAboveContent(wxDC& dc) {
