@@ -8,6 +8,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "controls/richtext/CellFonts.h"
+#include "controls/richtext/CellKeys.h"
 #include "controls/richtext/GridLines.h"
 #include "controls/richtext/RichUnits.h"
 #include "core/ErrorHandling.h"
@@ -219,7 +220,9 @@ void RichEditor::OnTyped(wxKeyEvent& event) {
   const int key = static_cast<int>(event.GetUnicodeKey());
   const bool types = key >= WXK_SPACE && key != WXK_DELETE && !event.AltDown() &&
                      (!event.ControlDown() || event.GetModifiers() == (wxMOD_CONTROL | wxMOD_ALT));
-  if (!types || !overwrite_ || !IsEditable() || HasSelection()) return;
+  if (!types || !IsEditable() || HasSelection()) return;
+  BeginParagraphBesideTable(*this);
+  if (!overwrite_) return;
   const long place = GetInsertionPoint();
   // The end of a paragraph is not overwritten.
   const wxString next = GetFocusObject()->GetTextForRange(wxRichTextRange(place, place));

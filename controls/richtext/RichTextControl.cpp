@@ -8,6 +8,7 @@
 #include "controls/ControlKeys.h"
 #include "controls/buttons/RaiseEvent.h"
 #include "controls/richtext/ButtonBar.h"
+#include "controls/richtext/CellKeys.h"
 #include "controls/richtext/EditCommands.h"
 #include "controls/richtext/EditorStatusBar.h"
 #include "controls/richtext/Ruler.h"
@@ -56,9 +57,11 @@ void RichTextControl::BindEditor() {
     if (RaiseEvent(*this, className_, "KeyUp", KeyUp, key, ShiftState(event))) event.Skip();
   });
   TXTextControl->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
-    if (!RunCommandOfKey(*this, event)) event.Skip();
+    bool isDone = RunCommandOfKey(*this, event);
+    if (!isDone) Guarded(className_, "KeyDown", [&] { isDone = RunCellKey(*TXTextControl, event); });
+    if (!isDone) event.Skip();
   });
-  // Tab types; with Ctrl it leaves the text, whatever notebook the control stands in.
+  // Tab types, or goes through a table; with Ctrl it leaves the text, whatever notebook the control stands in.
   TXTextControl->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
     if (event.GetKeyCode() != WXK_TAB || !event.RawControlDown() || event.AltDown()) return event.Skip();
     TXTextControl->Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward

@@ -223,6 +223,72 @@ TEST_F(RichTextCommandsTest, RowsAndColumnsComeAndGo) {
   }
 }
 
+TEST_F(RichTextCommandsTest, NewTablesFillTheWidthEvenlyAndStayApartFromTheText) {
+  const auto widths = [&] {
+    const TableCell place = CaretCell(control_->Editor());
+    std::vector<int> each;
+    for (int column = 0; place.table && column < place.table->GetColumnCount(); ++column)
+      each.push_back(place.table->GetCell(0, column)->GetCachedSize().x);
+    return each;
+  };
+  const auto expectFilled = [&](const char* when, std::size_t columns, int room) {
+    const std::vector<int> each = widths();
+    ASSERT_EQ(each.size(), columns) << when;
+    for (const int width : each) EXPECT_NEAR(width, room / static_cast<int>(columns), 3) << when;
+  };
+  RichEditor& editor = control_->Editor();
+  constexpr int kMargins = 10;
+  const int room = editor.GetClientSize().x - kMargins;
+  control_->SetText("two words");
+  control_->SetSelStart(4);
+  const std::string before = Stored();
+  PutLetters(2, 3);
+  EXPECT_EQ(Text().substr(0, 5), "two \n");
+  Type("a text that asks for room");
+  expectFilled("with text", 3, room);
+  control_->InsertColumn();
+  expectFilled("with a column more", 4, room);
+  control_->DeleteColumn();
+  control_->DeleteColumn();
+  expectFilled("with a column less", 2, room);
+  const std::string stored = Stored();
+  control_->Content().Load(stored);
+  EXPECT_EQ(Stored(), stored);
+  control_->SetSelStart(4);
+  Press(WXK_RIGHT);
+  expectFilled("after loading", 2, room);
+  PageSettings page;
+  page.paperWidth = 1000;
+  control_->SetPage(page);
+  control_->SetViewMode(kPageView);
+  EXPECT_LT(widths().front(), room / 3) << "the page is narrower than the window";
+  control_->Content().Load(before);
+  control_->SetSelStart(4);
+  PutTable(editor, 1, 1);
+  ExpectUndoable(before);
+}
+
+TEST_F(RichTextCommandsTest, RowsLookLikeTheOneBesideThemColumnByColumn) {
+  const auto cell = [](const char* width) {
+    return std::string("<cell width=\"") + width + ",4100\"><paragraph><text>a</text></paragraph></cell>";
+  };
+  control_->Content().Load(
+      "<richtext version=\"1.0.0.0\" xmlns=\"http://www.wxwidgets.org\"><paragraphlayout><paragraph>"
+      "<table rows=\"1\" cols=\"2\">" +
+      cell("20") + cell("70") + "</table></paragraph></paragraphlayout></richtext>");
+  const std::string loaded = Stored();
+  Press(WXK_RIGHT);
+  control_->InsertRow();
+  EXPECT_EQ(Cells(), "..|aa");
+  const std::string stored = Stored();
+  const auto first = stored.find("width=\"20,4100\"");
+  ASSERT_NE(first, std::string::npos);
+  EXPECT_LT(stored.find("width=\"70,4100\""), stored.rfind("width=\"20,4100\""));
+  EXPECT_NE(stored.rfind("width=\"20,4100\""), first);
+  control_->Undo();
+  EXPECT_EQ(Stored(), loaded) << "widths that are not even stay";
+}
+
 TEST_F(RichTextCommandsTest, TheLastRowAndColumnStay) {
   PutLetters(1, 1);
   control_->DeleteRow();
