@@ -91,7 +91,7 @@ auto Find(const Map& map, const Key& key) -> std::optional<typename Map::mapped_
 
 }  // namespace
 
-LanguageFile LanguageFile::Load(const std::filesystem::path& file) {
+std::string LanguageFile::Read(const std::filesystem::path& file) {
   std::error_code failure;
   auto size = std::filesystem::file_size(file, failure);
   std::ifstream stream(file, std::ios::binary);
@@ -104,7 +104,7 @@ LanguageFile LanguageFile::Load(const std::filesystem::path& file) {
   if (stream.bad() || (size > 0 && content.fail())) {
     throw Error(ErrorNumber::PathAccess, "the language file cannot be read: " + platform::PathToUtf8(file));
   }
-  return Parse(content.str());
+  return std::move(content).str();
 }
 
 LanguageFile LanguageFile::Parse(std::string_view xml) {

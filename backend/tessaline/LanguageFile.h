@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 
@@ -27,8 +28,11 @@ class LanguageFile {
   };
 
   /// Throws Error(PathAccess) when it cannot be read and Error(TypeMismatch) when it is damaged.
-  static LanguageFile Load(const std::filesystem::path& file);
+  static LanguageFile Load(const std::filesystem::path& file) { return Parse(Read(file)); }
   static LanguageFile Parse(std::string_view xml);
+  /// The bytes of a file, not looked at yet. Throws Error(PathAccess), or TypeMismatch when it is far too
+  /// large.
+  static std::string Read(const std::filesystem::path& file);
 
   int Code() const { return code_; }
   const wxString& Name() const { return name_; }

@@ -62,6 +62,10 @@ int CodeOf(const wxString& text) {
   return number ? static_cast<int>(code) : 0;
 }
 
+std::string_view EmbeddedEnglish() {
+  return platform::EmbeddedFile("languages/1033.xml");
+}
+
 wxString FillIn(const wxString& text, const std::vector<wxString>& parameters) {
   wxString filled;
   for (auto at = text.begin(); at != text.end(); ++at) {
@@ -114,7 +118,13 @@ std::filesystem::path Resource::FileOf(int code) const {
 std::shared_ptr<const LanguageFile> Resource::TryLoad(int code) const {
   auto path = FileOf(code);
   try {
-    auto file = std::make_shared<const LanguageFile>(LanguageFile::Load(path));
+    const std::string xml = LanguageFile::Read(path);
+    // English beside the program is mostly the one inside it, which is wanted anyhow: read once.
+    if (code == englishCode && xml == EmbeddedEnglish()) {
+      English();
+      return english_;
+    }
+    auto file = std::make_shared<const LanguageFile>(LanguageFile::Parse(xml));
     if (file->Code() == code) return file;
     throw Error(ErrorNumber::TypeMismatch, "the file is of language " + std::to_string(file->Code()));
   } catch (const Error& error) {
@@ -125,8 +135,7 @@ std::shared_ptr<const LanguageFile> Resource::TryLoad(int code) const {
 
 const LanguageFile& Resource::English() const {
   if (!english_) {
-    english_ = std::make_shared<const LanguageFile>(
-        LanguageFile::Parse(platform::EmbeddedFile("languages/1033.xml")));
+    english_ = std::make_shared<const LanguageFile>(LanguageFile::Parse(EmbeddedEnglish()));
   }
   return *english_;
 }
