@@ -2,13 +2,13 @@
 
 #include <wx/choice.h>
 #include <wx/combobox.h>
-#include <wx/fontenum.h>
 #include <wx/toolbar.h>
 #include <wx/xrc/xmlres.h>
 
 #include <algorithm>
 
 #include "backend/tessaline/Services.h"
+#include "controls/FontFaces.h"
 #include "controls/richtext/EditCommands.h"
 #include "controls/richtext/EditFormat.h"
 #include "controls/richtext/RichStyles.h"
@@ -55,16 +55,6 @@ wxWindowID IdOf(const char* name) {
   return wxXmlResource::GetXRCID(wxString("edit-") + name);
 }
 
-/// Asked for once: some systems take long.
-const wxArrayString& Faces() {
-  static const wxArrayString faces = [] {
-    wxArrayString found = wxFontEnumerator::GetFacenames();
-    found.Sort();
-    return found;
-  }();
-  return faces;
-}
-
 }  // namespace
 
 ButtonBar::ButtonBar(RichTextControl* control, const wxString& name)
@@ -82,10 +72,7 @@ void ButtonBar::AddChoices() {
                          wxDefaultValidator, "cboFace");
   cboSize = new wxComboBox(this, wxID_ANY, wxString(), wxDefaultPosition, FromDIP(wxSize(kSizeWidth, -1)), 0,
                            nullptr, wxTE_PROCESS_ENTER, wxDefaultValidator, "cboSize");
-  for (const wxString& face : Faces()) {
-    // Faces for vertical text begin with an at sign.
-    if (!face.StartsWith("@")) cboFace->Append(face);
-  }
+  OfferFaces(*cboFace);
   for (const char* size : kSizes) cboSize->Append(size);
   cboStyle->Bind(wxEVT_CHOICE,
                  [this](wxCommandEvent&) { Guarded("ButtonBar", "OnStyle", [this] { OnStyle(); }); });
@@ -171,8 +158,7 @@ void ButtonBar::ShowState(const RichTextControl& control) {
   }
   cboStyle->SetStringSelection(StyleText(StyleOf(editor)));
   const wxRichTextAttr format = CharacterFormat(editor);
-  if (format.HasFontFaceName() && !cboFace->SetStringSelection(format.GetFontFaceName()))
-    cboFace->SetSelection(wxNOT_FOUND);
+  if (format.HasFontFaceName()) ShowFace(*cboFace, format.GetFontFaceName());
   const wxString size = wxString::Format("%d", format.GetFontSize());
   if (!cboSize->HasFocus() && cboSize->GetValue() != size) cboSize->ChangeValue(size);
   for (wxWindow* group : groups_) {

@@ -3,9 +3,9 @@
 #include <wx/checkbox.h>
 #include <wx/choice.h>
 #include <wx/clrpicker.h>
-#include <wx/fontenum.h>
 #include <wx/spinctrl.h>
 
+#include "controls/FontFaces.h"
 #include "controls/RegisterControls.h"
 #include "core/ErrorHandling.h"
 
@@ -20,12 +20,7 @@ frmRichFont::frmRichFont(wxWindow* parent) : FormDialog(WithControls(parent), "f
   chkUnderline = Find<wxCheckBox>("chkUnderline");
   chkStrike = Find<wxCheckBox>("chkStrike");
   SetButtons("cmdOK", "cmdCancel");
-  wxArrayString faces = wxFontEnumerator::GetFacenames();
-  faces.Sort();
-  // Faces for vertical text begin with an at sign.
-  for (const wxString& face : faces) {
-    if (!face.StartsWith("@")) cboFace->Append(face);
-  }
+  OfferFaces(*cboFace);
   LoadInfoOnForm();
 }
 
@@ -39,10 +34,7 @@ bool frmRichFont::Ask(wxRichTextAttr& format) try {
 }
 
 void frmRichFont::ShowFormat(const wxRichTextAttr& format) {
-  if (!cboFace->SetStringSelection(format.GetFontFaceName())) {
-    cboFace->Insert(format.GetFontFaceName(), 0);
-    cboFace->SetSelection(0);
-  }
+  ShowFace(*cboFace, format.GetFontFaceName());
   spnSize->SetValue(format.GetFontSize());
   cpkColour->SetColour(format.HasTextColour() ? format.GetTextColour() : *wxBLACK);
   chkBold->SetValue(format.GetFontWeight() >= wxFONTWEIGHT_BOLD);

@@ -6,6 +6,7 @@
 
 #include "backend/corvane/StyleFormat.h"
 #include "backend/tessaline/Text.h"
+#include "controls/FontFaces.h"
 
 namespace mindloft {
 namespace {
@@ -48,12 +49,7 @@ std::optional<wxRichTextAttr> LettersOfStyle(const Corvane::StyleFormat& format)
 std::vector<wxString> StyleFonts() {
   std::vector<wxString> names;
   for (const auto& kind : kKinds) names.emplace_back(kind.name);
-  wxArrayString installed = wxFontEnumerator::GetFacenames();
-  installed.Sort();
-  for (const auto& face : installed) {
-    // Faces for text that runs downwards.
-    if (!face.StartsWith("@")) names.push_back(face);
-  }
+  for (const auto& face : InstalledFaces()) names.push_back(face);
   return names;
 }
 

@@ -6,6 +6,7 @@
 #include <wx/spinctrl.h>
 #include <wx/toolbar.h>
 
+#include "controls/FontFaces.h"
 #include "controls/richtext/EditCommands.h"
 #include "controls/richtext/EditFormat.h"
 #include "controls/richtext/TXControl.h"
@@ -111,6 +112,47 @@ TEST_F(RichTextCommandsTest, FontDialogShowsAndSetsTheCharacters) {
   });
   control_->FontDialog();
   EXPECT_EQ(Stored(), changed);
+}
+
+TEST_F(RichTextCommandsTest, AFontThatIsNotInstalledIsShownByItsName) {
+  constexpr const char* kMissing = "No Such Face";
+  control_->SetText("known missing other");
+  const auto face = [&] { return user_->Read("cboFace").utf8_string(); };
+  const std::string known = face();
+  EXPECT_NE(known, "");
+  // The windows' own font may be a name that only the system knows.
+  const auto more = [&] { return In<wxChoice>(*user_, "cboFace").GetCount() - InstalledFaces().size(); };
+  const auto first = more();
+  for (const auto& [start, name] : {std::pair{6, kMissing}, {14, "Another One"}}) {
+    wxRichTextAttr format;
+    format.SetFontFaceName(name);
+    control_->SetSelStart(start);
+    control_->SetSellength(5);
+    ApplyToCharacters(control_->Editor(), format);
+  }
+  for (const int again : {0, 1}) {
+    control_->SetSelStart(8);
+    Settle();
+    EXPECT_EQ(face(), kMissing) << again;
+    control_->SetSelStart(16);
+    Settle();
+    EXPECT_EQ(face(), "Another One") << again;
+    EXPECT_EQ(more(), 1u);
+    control_->SetSelStart(2);
+    Settle();
+    EXPECT_EQ(face(), known) << again;
+    EXPECT_EQ(more(), first);
+  }
+  control_->SetSelStart(6);
+  control_->SetSellength(7);
+  ModalDriver modal;
+  modal.ExpectForm("frmRichFont", [&](User& user) {
+    EXPECT_EQ(user.Read("cboFace"), kMissing);
+    user.Check("chkBold");
+    user.Click("cmdOK");
+  });
+  control_->FontDialog();
+  EXPECT_THAT(Stored(), HasSubstr("fontweight=\"700\" fontface=\"No Such Face\""));
 }
 
 TEST_F(RichTextCommandsTest, ParagraphDialogShowsAndSetsTheParagraphs) {
@@ -234,7 +276,8 @@ TEST_F(RichTextCommandsTest, NewTablesFillTheWidthEvenlyAndStayApartFromTheText)
   const auto expectFilled = [&](const char* when, std::size_t columns, int room) {
     const std::vector<int> each = widths();
     ASSERT_EQ(each.size(), columns) << when;
-    for (const int width : each) EXPECT_NEAR(width, room / static_cast<int>(columns), 3) << when;
+    const int share = room / static_cast<int>(columns);
+    for (const int width : each) EXPECT_NEAR(width, share, 3) << when;
   };
   RichEditor& editor = control_->Editor();
   constexpr int kMargins = 10;
