@@ -11,6 +11,7 @@
 #include "controls/print/frmPageSetup.h"
 #include "controls/richtext/PreviewWindow.h"
 #include "core/ErrorHandling.h"
+#include "platform/ui/MeasuringDC.h"
 
 namespace mindloft {
 namespace {
@@ -31,6 +32,15 @@ class Printout : public wxRichTextPrintout {
     const auto text = GetResource().GetFormatString(kPageOfText, {"@PAGENUM@", "@PAGESCNT@"});
     footer.SetFooterText(text, wxRICHTEXT_PAGE_ALL, wxRICHTEXT_PAGE_CENTRE);
     SetHeaderFooterData(footer);
+  }
+
+  /// Lays out the pages by a measure that is right for all scripts: lines of others would be cut off.
+  void OnPreparePrinting() override {
+    wxDC* const page = GetDC();
+    const auto measuring = platform::MakeMeasuringDC(*page);
+    if (measuring) SetDC(measuring.get());
+    wxRichTextPrintout::OnPreparePrinting();
+    SetDC(page);
   }
 
  private:

@@ -19,9 +19,6 @@ namespace mindloft {
 namespace {
 
 constexpr const char* kLineBreak = "\r\n";
-/// In tenths of a millimetre: the toolkit measures lines that run from right to left by some letters wrongly,
-/// and the first of them must not be cut off at the edge.
-constexpr int kRoomForFirstLetters = 60;
 
 wxColour DesktopColour() {
   return wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW);
@@ -118,7 +115,7 @@ void UserPreview::ApplyDistances(const Corvane::StyleFormat& format, wxRichTextA
   const int width = GetFontWidth(), height = GetFontHeight();
   const int left = std::max(0, scaled(format.leftIndent, width));
   const int right = std::max(0, scaled(format.rightIndent, width));
-  look.SetRightIndent(right + (GetResource().IsRightToLeft() ? kRoomForFirstLetters : 0));
+  look.SetRightIndent(right);
   const int firstLine = std::max(0, left + scaled(format.firstLineIndent, width));
   look.SetLeftIndent(firstLine, left - firstLine);
   look.SetParagraphSpacingBefore(std::max(0, scaled(format.spaceBefore, height)));

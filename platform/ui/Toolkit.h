@@ -3,7 +3,8 @@
 namespace mindloft::platform {
 
 /// Mends, for all windows to come, what the toolkit does wrongly on this desktop: where access keys lead (see
-/// LeadAccessKeys), and group boxes in windows that run from right to left. Calling it again changes nothing.
+/// LeadAccessKeys), group boxes in windows that run from right to left, and what rich-text boxes lay out
+/// their lines by. Calling it again changes nothing.
 void MendToolkit();
 
 }  // namespace mindloft::platform

@@ -1,10 +1,14 @@
 #include "platform/ui/MeasuringDC.h"
 
 #include <gtk/gtk.h>
+#include <wx/dcclient.h>
 #include <wx/dcgraph.h>
 #include <wx/display.h>
 #include <wx/graphics.h>
 #include <wx/window.h>
+
+#include "platform/ui/linux/MeasuringDC.h"
+#include "platform/ui/linux/TextParts.h"
 
 namespace mindloft::platform {
 namespace {
@@ -28,10 +32,16 @@ class MeasuringImpl : public wxGCDCImpl {
   MeasuringImpl(wxDC* owner, wxWindow& window)
       : wxGCDCImpl(owner, ContextOf(window)), resolution_(wxDisplay(&window).GetPPI()) {
     m_window = &window;
+    SetFont(window.GetFont());
   }
 
   /// The toolkit asks the display server each time where the window is, several times for each paragraph.
   wxSize GetPPI() const override { return resolution_; }
+  bool DoGetPartialTextExtents(const wxString& text, wxArrayInt& widths) const override {
+    widths = MeasureParts(static_cast<cairo_t*>(m_graphicContext->GetNativeContext()), m_font, text);
+    return true;
+  }
+  void DoGetSize(int* width, int* height) const override { m_window->GetClientSize(width, height); }
 
  private:
   wxSize resolution_;
@@ -42,7 +52,27 @@ class MeasuringDC : public wxDC {
   explicit MeasuringDC(wxWindow& window) : wxDC(new MeasuringImpl(this, window)) {}
 };
 
+/// Gives rich-text boxes contexts that measure rightly: they lay out their lines, and find the places of the
+/// mouse and the caret, by contexts of their client area, with which they draw nothing.
+class Contexts : public wxNativeDCFactory {
+ public:
+  using wxNativeDCFactory::CreateClientDC;
+  wxDCImpl* CreateClientDC(wxClientDC* owner, wxWindow* window) override {
+    // By name, for those who have no rich-text box need not link to its library.
+    const wxClassInfo* richText = wxClassInfo::FindClass("wxRichTextCtrl");
+    if (!window || !richText || !window->IsKindOf(richText))
+      return wxNativeDCFactory::CreateClientDC(owner, window);
+    return new MeasuringImpl(owner, *window);
+  }
+};
+
 }  // namespace
+
+void MeasureRichText() {
+  static bool isSet = false;
+  if (!isSet) wxDCFactory::Set(new Contexts);
+  isSet = true;
+}
 
 std::unique_ptr<wxDC> MakeMeasuringDC(wxWindow& window) {
   return std::make_unique<MeasuringDC>(window);

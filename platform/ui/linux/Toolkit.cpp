@@ -1,11 +1,13 @@
 #include "platform/ui/Toolkit.h"
 
 #include "platform/ui/AccessKeys.h"
+#include "platform/ui/linux/MeasuringDC.h"
 
 namespace mindloft::platform {
 
 void MendToolkit() {
   LeadAccessKeys();
+  MeasureRichText();
 }
 
 }  // namespace mindloft::platform

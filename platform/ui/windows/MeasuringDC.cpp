@@ -8,4 +8,8 @@ std::unique_ptr<wxDC> MakeMeasuringDC(wxWindow& window) {
   return std::make_unique<wxClientDC>(&window);
 }
 
+std::unique_ptr<wxDC> MakeMeasuringDC(wxDC&) {
+  return nullptr;
+}
+
 }  // namespace mindloft::platform

@@ -6,6 +6,7 @@
 
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
+#include "platform/ui/Toolkit.h"
 #include "tests/support/gui/ToolkitMessages.h"
 
 namespace mindloft::test {
@@ -35,6 +36,7 @@ class TestApp : public wxApp {
     delete wxLog::SetActiveTarget(new FailingLog);
     wxSetAssertHandler(FailOnAssert);
     FailOnToolkitMessages();
+    platform::MendToolkit();
     CallAfter([this] {
       result_ = RUN_ALL_TESTS();
       ResetServices();
