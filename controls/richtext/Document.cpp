@@ -1,11 +1,11 @@
 #include "controls/richtext/Document.h"
 
-#include <wx/mstream.h>
-#include <wx/richtext/richtextxml.h>
+#include <utility>
 
 #include "backend/corvane/document/DocumentHtml.h"
 #include "backend/corvane/document/SanitizeDocument.h"
 #include "backend/errors/Error.h"
+#include "controls/richtext/BufferXml.h"
 #include "controls/richtext/CellFonts.h"
 #include "controls/richtext/RichEditor.h"
 #include "core/ErrorHandling.h"
@@ -15,12 +15,6 @@ namespace {
 
 using Corvane::DocumentState;
 using Corvane::SafeDocument;
-
-/// The component knows a format once its handler is registered, for the life of the process.
-void RegisterXml() {
-  if (!wxRichTextBuffer::FindHandler(wxRICHTEXT_TYPE_XML))
-    wxRichTextBuffer::AddHandler(new wxRichTextXMLHandler);
-}
 
 /// After loading: the space around the text, and for tables without a font of their own that of the text,
 /// which they do not take by themselves.
@@ -40,18 +34,6 @@ void CompleteStyle(RichEditor& editor) {
     }
   }
 }
-
-/// The toolkit's stream into memory makes room for each piece alone: a thousand pages would take minutes.
-class TextStream : public wxOutputStream {
- public:
-  std::string text;
-
- protected:
-  std::size_t OnSysWrite(const void* piece, std::size_t size) override {
-    text.append(static_cast<const char*>(piece), size);
-    return size;
-  }
-};
 
 int MessageOf(DocumentState state) {
   switch (state) {
@@ -87,13 +69,10 @@ int Document::LoadHtml(std::string_view html) try {
 }
 
 void Document::Show(const std::string& xml) {
-  RegisterXml();
   editor_->ReplaceContent([&] {
-    wxMemoryInputStream stream(xml.data(), xml.size());
     wxRichTextBuffer& buffer = editor_->GetBuffer();
     editor_->UseBaseStyle();
-    if (!buffer.LoadFile(stream, wxRICHTEXT_TYPE_XML))
-      throw Error(ErrorNumber::Unexpected, "the rich-text component refused a document");
+    LoadBufferXml(buffer, xml);
     CompleteStyle(*editor_);
     GiveCellsFont(*editor_);
     buffer.Invalidate(wxRICHTEXT_ALL);
@@ -101,14 +80,10 @@ void Document::Show(const std::string& xml) {
 }
 
 std::string Document::Save() const try {
-  RegisterXml();
-  TextStream stream;
   TakeCellsFont(*editor_);
-  const bool isWritten = editor_->GetBuffer().SaveFile(stream, wxRICHTEXT_TYPE_XML);
+  const std::string xml = SaveBufferXml(editor_->GetBuffer());
   GiveCellsFont(*editor_);
-  if (!isWritten)
-    throw Error(ErrorNumber::Unexpected, "the rich-text component could not write its document");
-  SafeDocument safe = Corvane::SanitizeDocument(stream.text);
+  SafeDocument safe = Corvane::SanitizeDocument(xml);
   if (safe.state == DocumentState::TooLarge) throw Error(ErrorNumber::DocumentTooLarge);
   if (safe.state == DocumentState::Broken)
     throw Error(ErrorNumber::Unexpected, "the rich-text component wrote a broken document");

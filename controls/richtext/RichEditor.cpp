@@ -7,8 +7,10 @@
 #include <algorithm>
 
 #include "backend/tessaline/Services.h"
+#include "controls/richtext/BufferXml.h"
 #include "controls/richtext/CellFonts.h"
 #include "controls/richtext/CellKeys.h"
+#include "controls/richtext/FragmentData.h"
 #include "controls/richtext/GridLines.h"
 #include "controls/richtext/RichUnits.h"
 #include "core/ErrorHandling.h"
@@ -40,6 +42,8 @@ RichEditor::RichEditor(wxWindow* parent, const wxString& name)
   SetBackgroundColour(*wxWHITE);
   SetDelayedLayoutThreshold(kLargeText);
   EnableImages(false);
+  RegisterBufferXml();
+  SetDropTarget(new FragmentDropTarget(*this));
   SetLayoutDirection(wxLayout_LeftToRight);
   UseBaseStyle();
   BindChanges();
@@ -123,15 +127,23 @@ void RichEditor::Clear() {
 
 bool RichEditor::CanPaste() const {
   if (!IsEditable()) return false;
+  if (HasClipboardFragment()) return true;
   const wxClipboardLocker lock;
   return !lock ? false
-               : wxTheClipboard->IsSupported(wxDF_UNICODETEXT) || wxTheClipboard->IsSupported(wxDF_TEXT) ||
-                     wxTheClipboard->IsSupported(
-                         wxDataFormat(wxRichTextBufferDataObject::GetRichTextBufferFormatId()));
+               : wxTheClipboard->IsSupported(wxDF_UNICODETEXT) || wxTheClipboard->IsSupported(wxDF_TEXT);
 }
 
 void RichEditor::Paste() {
-  if (CanPaste()) wxRichTextCtrl::Paste();
+  if (!CanPaste()) return;
+  if (!HasClipboardFragment()) return wxRichTextCtrl::Paste();
+  const auto fragment = ClipboardFragment();
+  if (!fragment) return;
+  BeginBatchUndo(wxString());
+  long place = GetCaretPosition();
+  DeleteSelectedContent(&place);
+  GetFocusObject()->InsertParagraphsWithUndo(&GetBuffer(), place + 1, *fragment, this, 0);
+  ShowPosition(place + fragment->GetOwnRange().GetEnd());
+  EndBatchUndo();
 }
 
 void RichEditor::SetPageWidth(int tenths) {

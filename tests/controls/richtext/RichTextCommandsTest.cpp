@@ -1,12 +1,14 @@
 #include <gmock/gmock.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
+#include <wx/clipbrd.h>
 #include <wx/clrpicker.h>
 #include <wx/listbox.h>
 #include <wx/spinctrl.h>
 #include <wx/toolbar.h>
 
 #include "controls/FontFaces.h"
+#include "controls/richtext/BufferXml.h"
 #include "controls/richtext/EditCommands.h"
 #include "controls/richtext/EditFormat.h"
 #include "controls/richtext/TXControl.h"
@@ -402,6 +404,55 @@ TEST_F(RichTextCommandsTest, ClipMovesTextWithItsFormats) {
   EXPECT_EQ(Text(), "one\ntwo\nthree");
   control_->Undo();
   EXPECT_EQ(Text(), "twoone\ntwo\nthree");
+}
+
+// Formatted text that other programs offer, on the clipboard or by the mouse.
+TEST_F(RichTextCommandsTest, WhatComesFromOtherProgramsIsMadeSafe) {
+  const wxDataFormat format(wxRichTextBufferDataObject::GetRichTextBufferFormatId());
+  std::string nested;
+  for (int i = 0; i < 3000; ++i) nested += "<table rows=\"1\" cols=\"1\"><cell><paragraph>";
+  const std::pair<std::string, std::string> offers[] = {
+      {"<richtext><paragraphlayout partialparagraph=\"true\"><paragraph>"
+       "<image imagetype=\"15\"><data>89504E47</data></image>"
+       "<text fontweight=\"700\" url=\"http://elsewhere\" fontpointsize=\"-7\">bold</text>"
+       "</paragraph></paragraphlayout></richtext>",
+       "a-bold-z"},
+      {"<richtext><paragraphlayout><paragraph><table width=\"5,9999\" rows=\"70000\" cols=\"70000\"><cell>"
+       "<paragraph><text>cell</text></paragraph></cell></table></paragraph></paragraphlayout></richtext>",
+       "a-cell\n-z"},
+      {"<richtext><paragraphlayout><paragraph>" + nested + "<text>deep</text>", "a-deep\n-z"},
+      {"no XML", "a-no XML\n-z"},
+  };
+  const auto shown = [this] { return SaveBufferXml(control_->Editor().GetBuffer()); };
+  for (const auto& [offer, text] : offers) {
+    control_->SetText("a-x-z");
+    control_->SetSelStart(2);
+    control_->SetSellength(1);
+    const std::string before = Stored();
+    {
+      auto* data = new wxCustomDataObject(format);
+      data->SetData(offer.size(), offer.data());
+      wxTheClipboard->Open();
+      wxTheClipboard->SetData(data);
+      wxTheClipboard->Close();
+    }
+    control_->Clip(kClipPaste);
+    EXPECT_EQ(Text(), text) << offer.substr(0, 100);
+    EXPECT_THAT(shown(), AllOf(Not(HasSubstr("elsewhere")), Not(HasSubstr("image"))));
+    ExpectUndoable(before);
+
+    control_->SetText("a-x-z");
+    control_->SetSelStart(2);
+    control_->SetSellength(1);
+    auto* target = control_->Editor().GetDropTarget();
+    ASSERT_TRUE(target->GetDataObject()->SetData(format, offer.size(), offer.data()));
+    control_->Editor().OnDrop(0, 0, wxDragCopy, target->GetDataObject());
+    EXPECT_THAT(Text(), HasSubstr(text.substr(2, 4))) << offer.substr(0, 100);
+    EXPECT_THAT(shown(), AllOf(Not(HasSubstr("elsewhere")), Not(HasSubstr("image"))));
+  }
+  control_->SetLocked(true);
+  EXPECT_EQ(control_->Editor().GetDropTarget()->OnDragOver(0, 0, wxDragCopy), wxDragNone);
+  EXPECT_EQ(control_->Editor().GetDropTarget()->OnData(0, 0, wxDragCopy), wxDragNone);
 }
 
 TEST_F(RichTextCommandsTest, TheButtonBarShowsWhatHoldsAtTheCaret) {
