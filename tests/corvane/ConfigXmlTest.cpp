@@ -76,6 +76,10 @@ TEST(ConfigXmlTest, SettingKeepsEverythingElse) {
   document.Set("a[@x='1']/@b", "made");
   EXPECT_EQ(document.Select("a[1]/@b"), "made");
   EXPECT_EQ(document.Select("a[2]/@b"), "new");
+  // An expression may ask for the text that it replaces.
+  document.Set("a[@b='made']/@b", "again");
+  EXPECT_EQ(document.Select("a[1]/@b"), "again");
+  EXPECT_EQ(document.Select("a[@b='made']/@b"), std::nullopt);
 }
 
 TEST(ConfigXmlTest, DamagedDocumentsAreRefused) {
