@@ -18,6 +18,7 @@
 #include "bench/editors/Figures.h"
 #include "controls/richtext/TXControl.h"
 #include "platform/RegistryStore.h"
+#include "platform/ui/Toolkit.h"
 
 namespace mindloft::bench {
 namespace {
@@ -45,6 +46,7 @@ class RichTextBench : public wxApp {
     overrides.registry = platform::MemoryRegistry();
     ResetServices(std::move(overrides));
     if (argc > 1) pages_ = std::max(1, std::atoi(argv[1].utf8_str()));
+    platform::MendToolkit();
     frame_ = new wxFrame(nullptr, wxID_ANY, "bench", wxDefaultPosition, wxSize(1000, 700));
     text_ = new TXControl(frame_);
     frame_->Show();

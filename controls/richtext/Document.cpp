@@ -1,5 +1,7 @@
 #include "controls/richtext/Document.h"
 
+#include <wx/scopeguard.h>
+
 #include <utility>
 
 #include "backend/corvane/document/DocumentHtml.h"
@@ -81,8 +83,8 @@ void Document::Show(const std::string& xml) {
 
 std::string Document::Save() const try {
   TakeCellsFont(*editor_);
+  const wxScopeGuard shown = wxMakeGuard([this] { GiveCellsFont(*editor_); });
   const std::string xml = SaveBufferXml(editor_->GetBuffer());
-  GiveCellsFont(*editor_);
   SafeDocument safe = Corvane::SanitizeDocument(xml);
   if (safe.state == DocumentState::TooLarge) throw Error(ErrorNumber::DocumentTooLarge);
   if (safe.state == DocumentState::Broken)

@@ -14,7 +14,6 @@
 #include "controls/richtext/GridLines.h"
 #include "controls/richtext/RichUnits.h"
 #include "core/ErrorHandling.h"
-#include "platform/ui/MeasuringDC.h"
 
 namespace mindloft {
 namespace {
@@ -168,10 +167,7 @@ void RichEditor::DoLayoutBuffer(wxRichTextBuffer& buffer, wxDC& dc, wxRichTextDr
   wxRect page = rect;
   if (pageWidth_ > 0) page.width = std::min(page.width, TenthsToPixels(pageWidth_, *this));
   KeepInvalidRangeInText(buffer);
-  const auto measuring = platform::MakeMeasuringDC(*this);
-  measuring->SetFont(dc.GetFont());
-  measuring->SetUserScale(GetScale(), GetScale());
-  wxRichTextCtrl::DoLayoutBuffer(buffer, *measuring, context, page, parentRect, flags);
+  wxRichTextCtrl::DoLayoutBuffer(buffer, dc, context, page, parentRect, flags);
 }
 
 void RichEditor::PaintAboveContent(wxDC& dc) {

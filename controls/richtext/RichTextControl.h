@@ -145,7 +145,6 @@ class RichTextControl : public wxCompositeWindowSettersOnly<wxPanel>,
   void BindMouse();
   void OnChanged();
   void OnMoved();
-  void ApplyLocked();
   void ApplyPage();
   void ChangeText(const char* command, const std::function<void()>& change);
   void ShowFind(bool replaces, const wxString& text, FindOptions options);

@@ -2,6 +2,7 @@
 #include <wx/dcclient.h>
 #include <wx/dcmemory.h>
 #include <wx/frame.h>
+#include <wx/richtext/richtextctrl.h>
 
 #include "backend/tessaline/Text.h"
 #include "platform/ui/MeasuringDC.h"
@@ -28,27 +29,28 @@ void ExpectPartsInOrder(const wxDC& measuring, const wxDC& drawing, const wxStri
 
 }  // namespace
 
-TEST(MeasuringDCTest, MeasuresAsTheWindowDraws) {
+TEST(MeasuringDCTest, ARichTextBoxMeasuresAsWindowsDraw) {
   auto* frame = new wxFrame(nullptr, wxID_ANY, "measured");
+  auto* box = new wxRichTextCtrl(frame);
   for (const bool shown : {false, true}) {
     frame->Show(shown);
     wxClientDC drawing(frame);
-    const auto measuring = platform::MakeMeasuringDC(*frame);
-    EXPECT_EQ(measuring->GetPPI(), drawing.GetPPI());
+    wxClientDC measuring(box);
+    EXPECT_EQ(measuring.GetPPI(), drawing.GetPPI());
     for (const double scale : {1.0, 1.5}) {
       for (const int size : {8, 11, 24}) {
         const wxFont font(wxFontInfo(size).Bold(size == 11).Italic(size == 24));
-        for (wxDC* dc : {static_cast<wxDC*>(&drawing), measuring.get()}) {
+        for (wxDC* dc : {&drawing, &measuring}) {
           dc->SetUserScale(scale, scale);
           dc->SetFont(font);
         }
         for (const char* utf8 : {"Knowledge of the whole house", "知识域", "office fi ffl", "\t", "",
                                  "لا شيء يضيع 123 ولا يُقتطع", "في Mindloft 1.5 من الخادم"}) {
           const wxString text = ToWx(utf8);
-          EXPECT_EQ(measuring->GetTextExtent(text), drawing.GetTextExtent(text)) << utf8 << size << scale;
-          if (!text.Contains("\t")) ExpectPartsInOrder(*measuring, drawing, text);
+          EXPECT_EQ(measuring.GetTextExtent(text), drawing.GetTextExtent(text)) << utf8 << size << scale;
+          if (!text.Contains("\t")) ExpectPartsInOrder(measuring, drawing, text);
         }
-        EXPECT_EQ(measuring->GetCharHeight(), drawing.GetCharHeight());
+        EXPECT_EQ(measuring.GetCharHeight(), drawing.GetCharHeight());
       }
     }
   }

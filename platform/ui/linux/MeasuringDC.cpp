@@ -1,81 +1,69 @@
 #include "platform/ui/MeasuringDC.h"
 
-#include <gtk/gtk.h>
-#include <wx/dcclient.h>
+#include <wx/dc.h>
 #include <wx/dcgraph.h>
-#include <wx/display.h>
 #include <wx/graphics.h>
-#include <wx/window.h>
 
-#include "platform/ui/linux/MeasuringDC.h"
 #include "platform/ui/linux/TextParts.h"
 
 namespace mindloft::platform {
 namespace {
 
-/// A context for a surface like the window's, which decides how glyphs are rounded.
-wxGraphicsContext* ContextOf(wxWindow& window) {
-  GtkWidget* widget = window.m_wxwindow ? window.m_wxwindow : window.GetHandle();
-  GdkWindow* shown = gtk_widget_get_window(widget);
-  if (!shown) return wxGraphicsContext::Create();
-  cairo_surface_t* alike = gdk_window_create_similar_surface(shown, CAIRO_CONTENT_COLOR, 1, 1);
+wxGraphicsContext* ContextOf(const wxDC& page) {
+  auto* drawn = static_cast<cairo_t*>(page.GetImpl()->GetCairoContext());
+  if (!drawn) return wxGraphicsContext::Create();
+  cairo_surface_t* alike =
+      cairo_surface_create_similar(cairo_get_target(drawn), CAIRO_CONTENT_COLOR_ALPHA, 1, 1);
   cairo_t* cairo = cairo_create(alike);
   wxGraphicsContext* context = wxGraphicsContext::CreateFromNative(cairo);
   cairo_destroy(cairo);
   cairo_surface_destroy(alike);
-  context->SetContentScaleFactor(window.GetContentScaleFactor());
   return context;
 }
 
-class MeasuringImpl : public wxGCDCImpl {
+/// Leaves to the page what that tells rightly, and sets it as itself.
+class PageImpl : public wxGCDCImpl {
  public:
-  MeasuringImpl(wxDC* owner, wxWindow& window)
-      : wxGCDCImpl(owner, ContextOf(window)), resolution_(wxDisplay(&window).GetPPI()) {
-    m_window = &window;
-    SetFont(window.GetFont());
-  }
+  PageImpl(wxDC* owner, wxDC& page) : wxGCDCImpl(owner, ContextOf(page)), page_(page) {}
 
-  /// The toolkit asks the display server each time where the window is, several times for each paragraph.
-  wxSize GetPPI() const override { return resolution_; }
+  void SetFont(const wxFont& font) override {
+    wxGCDCImpl::SetFont(font);
+    page_.SetFont(font);
+  }
+  void SetUserScale(double x, double y) override {
+    wxGCDCImpl::SetUserScale(x, y);
+    page_.SetUserScale(x, y);
+  }
+  wxSize GetPPI() const override { return page_.GetPPI(); }
+  void DoGetSize(int* width, int* height) const override { page_.GetSize(width, height); }
+  wxCoord GetCharHeight() const override { return page_.GetCharHeight(); }
+  wxCoord GetCharWidth() const override { return page_.GetCharWidth(); }
+  void DoGetTextExtent(const wxString& text, wxCoord* width, wxCoord* height, wxCoord* descent,
+                       wxCoord* leading, const wxFont* font) const override {
+    page_.GetTextExtent(text, width, height, descent, leading, font);
+  }
   bool DoGetPartialTextExtents(const wxString& text, wxArrayInt& widths) const override {
     widths = MeasureParts(static_cast<cairo_t*>(m_graphicContext->GetNativeContext()), m_font, text);
+    if (widths.empty() || widths.back() == 0) return true;
+    // Printers have a measure of their own for the size of letters.
+    const double share = static_cast<double>(page_.GetTextExtent(text).x) / widths.back();
+    for (int& width : widths) width = wxRound(width * share);
     return true;
   }
-  void DoGetSize(int* width, int* height) const override { m_window->GetClientSize(width, height); }
 
  private:
-  wxSize resolution_;
+  wxDC& page_;
 };
 
-class MeasuringDC : public wxDC {
+class PageDC : public wxDC {
  public:
-  explicit MeasuringDC(wxWindow& window) : wxDC(new MeasuringImpl(this, window)) {}
-};
-
-/// Gives rich-text boxes contexts that measure rightly: they lay out their lines, and find the places of the
-/// mouse and the caret, by contexts of their client area, with which they draw nothing.
-class Contexts : public wxNativeDCFactory {
- public:
-  using wxNativeDCFactory::CreateClientDC;
-  wxDCImpl* CreateClientDC(wxClientDC* owner, wxWindow* window) override {
-    // By name, for those who have no rich-text box need not link to its library.
-    const wxClassInfo* richText = wxClassInfo::FindClass("wxRichTextCtrl");
-    if (!window || !richText || !window->IsKindOf(richText))
-      return wxNativeDCFactory::CreateClientDC(owner, window);
-    return new MeasuringImpl(owner, *window);
-  }
+  explicit PageDC(wxDC& page) : wxDC(new PageImpl(this, page)) {}
 };
 
 }  // namespace
 
-void MeasureRichText() {
-  static bool isSet = false;
-  if (!isSet) wxDCFactory::Set(new Contexts);
-  isSet = true;
-}
-
-std::unique_ptr<wxDC> MakeMeasuringDC(wxWindow& window) {
-  return std::make_unique<MeasuringDC>(window);
+std::unique_ptr<wxDC> MakeMeasuringDC(wxDC& page) {
+  return std::make_unique<PageDC>(page);
 }
 
 }  // namespace mindloft::platform

@@ -1,7 +1,7 @@
 #include "platform/ui/Toolkit.h"
 
 #include "platform/ui/AccessKeys.h"
-#include "platform/ui/linux/MeasuringDC.h"
+#include "platform/ui/linux/RichTextContexts.h"
 
 namespace mindloft::platform {
 
