@@ -83,7 +83,7 @@ void Document::Show(const std::string& xml) {
 
 std::string Document::Save() const try {
   TakeCellsFont(*editor_);
-  const wxScopeGuard shown = wxMakeGuard([this] { GiveCellsFont(*editor_); });
+  const auto shown = wxMakeGuard([this] { GiveCellsFont(*editor_); });
   const std::string xml = SaveBufferXml(editor_->GetBuffer());
   SafeDocument safe = Corvane::SanitizeDocument(xml);
   if (safe.state == DocumentState::TooLarge) throw Error(ErrorNumber::DocumentTooLarge);
