@@ -1,10 +1,11 @@
 #include "controls/richtext/CellKeys.h"
 
-#include <wx/dcclient.h>
+#include <wx/event.h>
 
 #include <algorithm>
 
 #include "controls/richtext/RichEditor.h"
+#include "controls/richtext/SeenPlaces.h"
 #include "controls/richtext/TableEditing.h"
 
 namespace mindloft {
@@ -52,13 +53,6 @@ void LeaveTable(RichEditor& editor, const wxRichTextTable& table, Side side) {
   GoTo(editor, *text, place);
 }
 
-/// Where the caret is on the paper, whatever part of it is on the screen.
-int CaretX(RichEditor& editor) {
-  wxRect caret;
-  editor.GetCaretPositionForIndex(editor.GetCaretPosition(), caret);
-  return caret.x;
-}
-
 /// Goes to the line of the cell that lies at that side, below or above where the caret was.
 void GoToLine(RichEditor& editor, wxRichTextCell& cell, int x, Side side) {
   constexpr int kInside = 2;
@@ -69,25 +63,9 @@ void GoToLine(RichEditor& editor, wxRichTextCell& cell, int x, Side side) {
           .GetLines();
   if (lines.empty()) return GoTo(editor, cell, side);
   const wxRichTextLine& line = side == Side::Beginning ? *lines.front() : *lines.back();
-  wxClientDC dc(&editor);
-  editor.PrepareDC(dc);
-  wxRichTextDrawingContext context(&editor.GetBuffer());
-  wxRichTextObject* hit = nullptr;
-  wxRichTextObject* around = nullptr;
-  long place = 0;
-  const int found =
-      cell.HitTest(dc, context, {x, line.GetAbsolutePosition().y + kInside}, place, &hit, &around,
-                   wxRICHTEXT_HITTEST_NO_NESTED_OBJECTS | wxRICHTEXT_HITTEST_NO_FLOATING_OBJECTS);
-  if (found & wxRICHTEXT_HITTEST_NONE) return GoTo(editor, cell, side);
-  GoTo(editor, cell, (found & wxRICHTEXT_HITTEST_AFTER) ? place + 1 : place);
-}
-
-/// The line of the text with the caret that lies so many below the caret's; null past its ends.
-wxRichTextLine* LineFromCaret(const RichEditor& editor, int lines) {
-  const auto* text = editor.GetFocusObject();
-  const long present =
-      text->GetVisibleLineNumber(editor.GetCaretPosition(), true, editor.GetCaretAtLineStart());
-  return present < 0 || present + lines < 0 ? nullptr : text->GetLineForVisibleLineNumber(present + lines);
+  const auto place = PlaceSeenAt(editor, cell, {x, line.GetAbsolutePosition().y + kInside});
+  if (!place) return GoTo(editor, cell, side);
+  GoTo(editor, cell, *place);
 }
 
 /// The table at that place of the text with the caret.
@@ -151,7 +129,7 @@ bool MoveAcross(RichEditor& editor, const TableCell& place, int steps) {
 }
 
 bool MoveBetweenLines(RichEditor& editor, const TableCell& place, int lines) {
-  const int x = CaretX(editor);
+  const int x = SeenCaretX(editor);
   const Side side = lines > 0 ? Side::Beginning : Side::End;
   if (const auto* line = LineFromCaret(editor, lines)) {
     const auto* inner = TableAt(editor, line->GetAbsoluteRange().GetStart());
@@ -199,10 +177,10 @@ bool RunCellKey(RichEditor& editor, const wxKeyEvent& event) {
       return Tab(editor, place, isPlain ? 1 : -1);
     case WXK_RIGHT:
     case WXK_NUMPAD_RIGHT:
-      return (isPlain || isControl) && MoveAcross(editor, place, 1);
+      return (isPlain || isControl) && MoveAcross(editor, place, RunsToTheLeftAtCaret(editor) ? -1 : 1);
     case WXK_LEFT:
     case WXK_NUMPAD_LEFT:
-      return (isPlain || isControl) && MoveAcross(editor, place, -1);
+      return (isPlain || isControl) && MoveAcross(editor, place, RunsToTheLeftAtCaret(editor) ? 1 : -1);
     case WXK_DOWN:
     case WXK_NUMPAD_DOWN:
       return isPlain && MoveBetweenLines(editor, place, 1);

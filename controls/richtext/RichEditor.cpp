@@ -13,6 +13,7 @@
 #include "controls/richtext/FragmentData.h"
 #include "controls/richtext/GridLines.h"
 #include "controls/richtext/RichUnits.h"
+#include "controls/richtext/SeenPlaces.h"
 #include "core/ErrorHandling.h"
 
 namespace mindloft {
@@ -46,6 +47,7 @@ RichEditor::RichEditor(wxWindow* parent, const wxString& name)
   SetLayoutDirection(wxLayout_LeftToRight);
   UseBaseStyle();
   BindChanges();
+  BindMouse();
   Bind(wxEVT_CHAR, &RichEditor::OnTyped, this);
 }
 
@@ -70,6 +72,42 @@ void RichEditor::BindChanges() {
       TellChange();
     });
   }
+}
+
+void RichEditor::BindMouse() {
+  for (const auto& type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_LEFT_DCLICK, wxEVT_MOTION}) {
+    Bind(type, [this](wxMouseEvent& event) {
+      event.Skip();
+      if (!event.Moving()) AimMouse(*this, event);
+    });
+  }
+}
+
+void RichEditor::PositionCaret(wxRichTextParagraphLayoutBox* container) {
+  wxRichTextCtrl::PositionCaret(container);
+  ShowCaretAsSeen(*this);
+}
+
+bool RichEditor::KeyboardNavigate(int keyCode, int flags) {
+  switch (keyCode) {
+    case WXK_LEFT:
+    case WXK_NUMPAD_LEFT:
+      return wxRichTextCtrl::KeyboardNavigate(RunsToTheLeftAtCaret(*this) ? WXK_RIGHT : keyCode, flags);
+    case WXK_RIGHT:
+    case WXK_NUMPAD_RIGHT:
+      return wxRichTextCtrl::KeyboardNavigate(RunsToTheLeftAtCaret(*this) ? WXK_LEFT : keyCode, flags);
+    case WXK_UP:
+    case WXK_NUMPAD_UP:
+      AimCaret(*this, -1);
+      break;
+    case WXK_DOWN:
+    case WXK_NUMPAD_DOWN:
+      AimCaret(*this, 1);
+      break;
+    default:
+      break;
+  }
+  return wxRichTextCtrl::KeyboardNavigate(keyCode, flags);
 }
 
 void RichEditor::TellChange() {

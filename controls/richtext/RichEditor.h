@@ -65,6 +65,8 @@ class RichEditor : public wxRichTextCtrl {
                       const wxRect& rect, const wxRect& parentRect, int flags) override;
   void PaintAboveContent(wxDC& dc) override;
   void OnInternalIdle() override;
+  void PositionCaret(wxRichTextParagraphLayoutBox* container = nullptr) override;
+  bool KeyboardNavigate(int keyCode, int flags) override;
 
  private:
   /// Where caret and selection were told to be.
@@ -79,6 +81,7 @@ class RichEditor : public wxRichTextCtrl {
   Place CurrentPlace() const;
   void TellChange();
   void BindChanges();
+  void BindMouse();
   void OnTyped(wxKeyEvent& event);
 
   Place told_;

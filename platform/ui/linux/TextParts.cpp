@@ -1,11 +1,9 @@
 #include "platform/ui/linux/TextParts.h"
 
-#include <pango/pangocairo.h>
 #include <wx/fontutil.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 namespace mindloft::platform {
@@ -15,11 +13,6 @@ namespace {
 struct Cluster {
   int start;  ///< byte of the text
   int width;  ///< in Pango's units
-};
-
-struct Unreference {
-  void operator()(PangoLayout* layout) const { g_object_unref(layout); }
-  void operator()(PangoLayoutIter* place) const { pango_layout_iter_free(place); }
 };
 
 /// In the order in which they are read.
@@ -38,14 +31,19 @@ std::vector<Cluster> ClustersOf(PangoLayout& layout) {
 
 }  // namespace
 
+LayoutPointer MakeLayout(cairo_t* context, const wxFont& font, const wxScopedCharBuffer& utf8) {
+  LayoutPointer layout(pango_cairo_create_layout(context));
+  pango_layout_set_font_description(layout.get(), font.GetNativeFontInfo()->description);
+  pango_layout_set_text(layout.get(), utf8.data(), static_cast<int>(utf8.length()));
+  return layout;
+}
+
 wxArrayInt MeasureParts(cairo_t* context, const wxFont& font, const wxString& text) {
   wxArrayInt ends;
   if (text.empty()) return ends;
   ends.reserve(text.length());
   const wxScopedCharBuffer utf8 = text.utf8_str();
-  const std::unique_ptr<PangoLayout, Unreference> layout(pango_cairo_create_layout(context));
-  pango_layout_set_font_description(layout.get(), font.GetNativeFontInfo()->description);
-  pango_layout_set_text(layout.get(), utf8.data(), static_cast<int>(utf8.length()));
+  const LayoutPointer layout = MakeLayout(context, font, utf8);
   const std::vector<Cluster> clusters = ClustersOf(*layout);
   int known = 0;
   const PangoLogAttr* characters = pango_layout_get_log_attrs_readonly(layout.get(), &known);
