@@ -15,9 +15,13 @@ namespace {
 
 void (*helpAction)() = nullptr;
 
+/// Of the lists and the colours' buttons, those that are not the system's.
 bool IsDrawnByToolkit(const wxWindow& window) {
-  const wxClassInfo* drawnList = wxClassInfo::FindClass("wxGenericListCtrl");
-  return drawnList && window.IsKindOf(drawnList);
+  for (const char* name : {"wxGenericListCtrl", "wxGenericColourButton"}) {
+    const wxClassInfo* drawn = wxClassInfo::FindClass(name);
+    if (drawn && window.IsKindOf(drawn)) return true;
+  }
+  return false;
 }
 
 }  // namespace

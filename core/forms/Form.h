@@ -19,7 +19,8 @@ void LoadDialogForm(wxDialog& dialog, wxWindow* parent, const wxString& name);
 void LoadFrameForm(wxFrame& frame, wxWindow* parent, const wxString& name);
 
 /// Gives the window and all below it the layout direction of the current language. Lists that the toolkit
-/// draws itself stay left to right: their glyphs would be mirrored.
+/// draws itself stay left to right, for their glyphs would be mirrored, and so do its buttons for colours,
+/// which would lose them.
 void ApplyLayoutDirection(wxWindow& window);
 
 [[noreturn]] void ThrowMissingControl(const wxWindow& form, const char* name, const char* type);
