@@ -1,26 +1,16 @@
 #include "controls/richtext/CellFonts.h"
 
+#include "controls/richtext/Paragraphs.h"
 #include "controls/richtext/RichEditor.h"
 
 namespace mindloft {
 namespace {
 
-template <typename Object, typename Action>
-void ForChildren(const wxRichTextCompositeObject& parent, Action action) {
-  for (auto* node = parent.GetChildren().GetFirst(); node; node = node->GetNext())
-    if (auto* child = dynamic_cast<Object*>(node->GetData())) action(*child);
-}
-
+/// For the formats of the paragraphs in cells.
 template <typename Action>
-void ForCells(const wxRichTextParagraphLayoutBox& box, const Action& action) {
-  ForChildren<wxRichTextParagraph>(box, [&](const wxRichTextParagraph& paragraph) {
-    ForChildren<wxRichTextTable>(paragraph, [&](const wxRichTextTable& table) {
-      ForChildren<wxRichTextCell>(table, [&](const wxRichTextCell& cell) {
-        ForChildren<wxRichTextParagraph>(cell,
-                                         [&](wxRichTextParagraph& inner) { action(inner.GetAttributes()); });
-        ForCells(cell, action);
-      });
-    });
+void ForCells(wxRichTextBuffer& text, const Action& action) {
+  ForParagraphs(text, [&](const wxRichTextParagraphLayoutBox& box, wxRichTextParagraph& paragraph) {
+    if (&box != &text) action(paragraph.GetAttributes());
   });
 }
 

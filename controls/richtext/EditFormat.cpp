@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controls/richtext/OwnAlignment.h"
 #include "controls/richtext/RichEditor.h"
 #include "controls/richtext/RichStyles.h"
 
@@ -123,8 +124,11 @@ BulletKind BulletKindOf(const wxRichTextAttr& format) {
 
 void MakeList(RichEditor& editor, BulletKind kind, int first) {
   const UndoStep step(editor);
+  const wxRichTextAttr basic = editor.GetBasicStyle();
   for (const auto& [range, present] : SelectedParagraphs(editor)) {
     wxRichTextAttr format;
+    if (present.GetAlignment() == UsualAlignment(basic, IsListed(present)))
+      format.SetAlignment(UsualAlignment(basic, kind != BulletKind::None));
     format.SetBulletStyle(BulletStyleOf(kind));
     if (kind == BulletKind::Bullets) format.SetBulletName("standard/circle");
     if (kind != BulletKind::Bullets && kind != BulletKind::None) format.SetBulletNumber(first++);

@@ -12,6 +12,7 @@
 #include "controls/richtext/CellKeys.h"
 #include "controls/richtext/FragmentData.h"
 #include "controls/richtext/GridLines.h"
+#include "controls/richtext/OwnAlignment.h"
 #include "controls/richtext/RichUnits.h"
 #include "controls/richtext/SeenPlaces.h"
 #include "core/ErrorHandling.h"
@@ -61,6 +62,7 @@ void RichEditor::UseBaseStyle() {
   style.SetParagraphSpacingBefore(0);
   style.Apply(baseLook_);
   SetBasicStyle(style);
+  GiveOwnAlignment(GetBuffer(), style);
   SetMargins(kSpaceAround);
 }
 
@@ -126,6 +128,7 @@ void RichEditor::ReplaceContent(const std::function<void()>& load) {
   SelectNone();
   try {
     load();
+    GiveOwnAlignment(GetBuffer(), GetBasicStyle());
   } catch (...) {
     Thaw();
     --replacing_;
@@ -160,6 +163,7 @@ void RichEditor::Redo() {
 void RichEditor::Clear() {
   LeaveCells();
   wxRichTextCtrl::Clear();
+  GiveOwnAlignment(GetBuffer(), GetBasicStyle());
 }
 
 bool RichEditor::CanPaste() const {
@@ -175,6 +179,7 @@ void RichEditor::Paste() {
   if (!HasClipboardFragment()) return wxRichTextCtrl::Paste();
   const auto fragment = ClipboardFragment();
   if (!fragment) return;
+  GiveOwnAlignment(*fragment, GetBasicStyle());
   BeginBatchUndo(wxString());
   long place = GetCaretPosition();
   DeleteSelectedContent(&place);

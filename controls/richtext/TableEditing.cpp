@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controls/richtext/CellFonts.h"
+#include "controls/richtext/OwnAlignment.h"
 #include "controls/richtext/RichEditor.h"
 
 namespace mindloft {
@@ -85,6 +86,7 @@ bool HasEvenColumns(const wxRichTextTable& table) {
 
 void ShowChanged(RichEditor& editor, wxRichTextTable& table) {
   GiveCellsFont(editor);
+  GiveOwnAlignment(editor.GetBuffer(), editor.GetBasicStyle());
   // Also what holds the cell is laid out anew: the font decides how high an empty one is.
   if (auto* cell = table.GetCell(0, 0)) cell->InvalidateHierarchy(wxRICHTEXT_ALL);
   editor.LayoutContent();

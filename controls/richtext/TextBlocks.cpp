@@ -2,27 +2,12 @@
 
 #include <wx/richtext/richtextctrl.h>
 
+#include "controls/richtext/Paragraphs.h"
+
 namespace mindloft {
 namespace {
 
 const wxUniChar kObject(0xFFFC);
-
-void AddBlocks(wxRichTextParagraphLayoutBox& box, std::vector<TextBlock>& blocks) {
-  for (auto* node = box.GetChildren().GetFirst(); node; node = node->GetNext()) {
-    auto* paragraph = dynamic_cast<wxRichTextParagraph*>(node->GetData());
-    if (!paragraph) continue;
-    blocks.push_back({&box, paragraph->GetRange().GetStart(), TextOfParagraph(*paragraph)});
-    for (auto* part = paragraph->GetChildren().GetFirst(); part; part = part->GetNext()) {
-      auto* table = dynamic_cast<wxRichTextTable*>(part->GetData());
-      if (!table) continue;
-      for (int row = 0; row < table->GetRowCount(); ++row) {
-        for (int column = 0; column < table->GetColumnCount(); ++column) {
-          if (auto* cell = table->GetCell(row, column)) AddBlocks(*cell, blocks);
-        }
-      }
-    }
-  }
-}
 
 }  // namespace
 
@@ -40,7 +25,9 @@ wxString TextOfParagraph(const wxRichTextParagraph& paragraph) {
 
 std::vector<TextBlock> TextBlocks(wxRichTextCtrl& editor) {
   std::vector<TextBlock> blocks;
-  AddBlocks(editor.GetBuffer(), blocks);
+  ForParagraphs(editor.GetBuffer(), [&](auto& box, const wxRichTextParagraph& paragraph) {
+    blocks.push_back({&box, paragraph.GetRange().GetStart(), TextOfParagraph(paragraph)});
+  });
   return blocks;
 }
 

@@ -1,7 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "backend/tessaline/Services.h"
+#include "controls/richtext/EditCommands.h"
 #include "controls/richtext/FormatDialogs.h"
+#include "controls/richtext/OwnAlignment.h"
+#include "controls/richtext/Paragraphs.h"
 #include "controls/richtext/TXControl.h"
+#include "controls/richtext/TableEditing.h"
+#include "controls/richtext/TextBlocks.h"
 #include "controls/richtext/frmFindText.h"
 #include "tests/controls/richtext/RichTextFixture.h"
 #include "tests/support/gui/FormLooks.h"
@@ -59,6 +65,74 @@ TEST_F(RichTextLanguageTest, TheBarsFollowTheirForm) {
     ExpectFits(*frame_);
     ExpectTextsOfLanguage(*frame_, 20);
   });
+}
+
+class RightToLeftTextTest : public RichTextFixture {
+ protected:
+  void SetUp() override {
+    RichTextFixture::SetUp();
+    ASSERT_TRUE(GetResource().SwitchLanguage(1025));
+    control_ = &Show(new TXControl(frame_));
+  }
+  void ExpectAtTheRight(const char* after) {
+    control_->Editor().LayoutContent();
+    std::size_t paragraphs = 0;
+    ForParagraphs(control_->Editor().GetBuffer(),
+                  [&](const wxRichTextParagraphLayoutBox& box, const wxRichTextParagraph& paragraph) {
+                    ++paragraphs;
+                    const int middle = box.GetAbsolutePosition().x + box.GetCachedSize().x / 2;
+                    const auto& lines = paragraph.GetLines();
+                    ASSERT_FALSE(lines.empty());
+                    // Their signs are drawn at the left.
+                    const bool isRight = !IsListed(paragraph.GetAttributes());
+                    EXPECT_EQ(lines.front()->GetAbsolutePosition().x > middle, isRight)
+                        << after << ": " << TextOfParagraph(paragraph).utf8_string();
+                  });
+    EXPECT_GT(paragraphs, 0U);
+  }
+};
+
+TEST_F(RightToLeftTextTest, ParagraphsWithoutAnAlignmentAreAtTheRight) {
+  Type("a\nb");
+  ExpectAtTheRight("typing");
+  static_cast<TXControl*>(control_)->SelectAll();
+  control_->Clip(kClipCut);
+  ExpectAtTheRight("cutting all");
+  control_->Clip(kClipPaste);
+  ExpectAtTheRight("pasting");
+  control_->SetText("c\nd");
+  ExpectAtTheRight("setting the text");
+  const std::string stored = Stored();
+  control_->Content().LoadHtml("<h1>e</h1><ul><li>f</ul>");
+  ExpectAtTheRight("opening a page");
+  control_->SetSelStart(2);
+  EXPECT_TRUE(CommandOf("align-left").isChecked(*control_)) << "in a list";
+  control_->Content().Load(stored);
+  ExpectAtTheRight("loading");
+  EXPECT_EQ(Stored(), stored);
+  control_->Editor().Clear();
+  Type("g");
+  ExpectAtTheRight("clearing");
+  Press('L', wxMOD_CONTROL);
+  EXPECT_TRUE(CommandOf("align-left").isChecked(*control_));
+  Press('R', wxMOD_CONTROL);
+  ExpectAtTheRight("aligning");
+  RunCommand(*control_, CommandOf("numbering"));
+  ExpectAtTheRight("making a list");
+  RunCommand(*control_, CommandOf("numbering"));
+  ExpectAtTheRight("ending a list");
+  control_->Undo();
+  control_->Undo();
+  ExpectAtTheRight("taking back");
+  control_->Editor().Clear();
+  PutLetters(2, 2);
+  AppendRow(control_->Editor());
+  const auto table = CaretCell(control_->Editor()).table;
+  for (int row = 0; row < table->GetRowCount(); ++row) {
+    const wxRichTextCell& cell = *table->GetCell(row, 0);
+    const auto* paragraph = dynamic_cast<wxRichTextParagraph*>(cell.GetChildren().GetFirst()->GetData());
+    EXPECT_EQ(paragraph->GetAttributes().GetAlignment(), wxTEXT_ALIGNMENT_RIGHT) << row;
+  }
 }
 
 }  // namespace

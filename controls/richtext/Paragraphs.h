@@ -1,0 +1,27 @@
+#pragma once
+
+#include <wx/richtext/richtextbuffer.h>
+
+namespace mindloft {
+
+/// Runs `action(box, paragraph)` for all paragraphs of a text and of the cells in it, in the order in which
+/// they are read; `box` is the text or the cell.
+template <typename Action>
+void ForParagraphs(wxRichTextParagraphLayoutBox& box, const Action& action) {
+  for (auto* node = box.GetChildren().GetFirst(); node; node = node->GetNext()) {
+    auto* paragraph = dynamic_cast<wxRichTextParagraph*>(node->GetData());
+    if (!paragraph) continue;
+    action(box, *paragraph);
+    for (auto* part = paragraph->GetChildren().GetFirst(); part; part = part->GetNext()) {
+      auto* table = dynamic_cast<wxRichTextTable*>(part->GetData());
+      if (!table) continue;
+      for (int row = 0; row < table->GetRowCount(); ++row) {
+        for (int column = 0; column < table->GetColumnCount(); ++column) {
+          if (auto* cell = table->GetCell(row, column)) ForParagraphs(*cell, action);
+        }
+      }
+    }
+  }
+}
+
+}  // namespace mindloft
