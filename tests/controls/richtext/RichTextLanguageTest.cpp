@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <wx/clrpicker.h>
 
 #include "backend/tessaline/Services.h"
 #include "controls/richtext/EditCommands.h"
@@ -133,6 +134,19 @@ TEST_F(RightToLeftTextTest, ParagraphsWithoutAnAlignmentAreAtTheRight) {
     const auto* paragraph = dynamic_cast<wxRichTextParagraph*>(cell.GetChildren().GetFirst()->GetData());
     EXPECT_EQ(paragraph->GetAttributes().GetAlignment(), wxTEXT_ALIGNMENT_RIGHT) << row;
   }
+}
+
+// A mirrored button of the toolkit's shows a thin line of its colour; the system's own are as the form is.
+TEST_F(RightToLeftTextTest, ButtonsForColoursAreMirroredBySystemsOnly) {
+  ModalDriver modal;
+  modal.ExpectForm("frmRichFont", [](User& user) {
+    const auto& button = *user.Find<wxColourPickerCtrl>("cpkColour").GetPickerCtrl();
+    const wxClassInfo* drawn = wxClassInfo::FindClass("wxGenericColourButton");
+    const bool isDrawn = drawn && button.IsKindOf(drawn);
+    EXPECT_EQ(button.GetLayoutDirection() == wxLayout_RightToLeft, !isDrawn);
+    user.Click("cmdCancel");
+  });
+  EditFont(control_->Editor());
 }
 
 }  // namespace
