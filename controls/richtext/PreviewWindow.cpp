@@ -99,6 +99,12 @@ class PreviewFrame : public wxPreviewFrame {
   wxStatusBar* OnCreateStatusBar(int, long, wxWindowID, const wxString&) override { return nullptr; }
   void SetStatusText(const wxString&, int = 0) override {}
 
+  void FollowLanguage() {
+    ApplyLayoutDirection(*this);
+    // The page's picture would be mirrored with its letters.
+    m_previewCanvas->SetLayoutDirection(wxLayout_LeftToRight);
+  }
+
   /// For pages that became known only while they were shown.
   void Tell() { static_cast<PreviewBar*>(m_controlBar)->Tell(); }
 };
@@ -110,7 +116,7 @@ void ShowPreview(wxWindow* parent, std::unique_ptr<wxPrintPreview> preview, cons
   auto* frame = new PreviewFrame(shown, parent, title);
   frame->SetIcons(WindowIcons());
   frame->InitializeWithModality(wxPreviewFrame_AppModal);
-  ApplyLayoutDirection(*frame);
+  frame->FollowLanguage();
   shown->SetZoom(kFirstZoom);
   constexpr int kWidth = 760;
   constexpr int kHeight = 640;

@@ -105,7 +105,10 @@ class Vocabulary {
  public:
   explicit Vocabulary(int code) {
     const auto file = LanguageFile::Load(GetResource().LanguageFolder() / (std::to_string(code) + ".xml"));
-    for (const auto& [number, text] : file.Texts()) Add(text);
+    for (const auto& [number, text] : file.Texts()) {
+      Add(text);
+      Add(wxControl::RemoveMnemonics(text));
+    }
     // These are followed by a name, or by a number in brackets.
     for (const int number : {59101, 59102, 59103, 59352, 59662}) Add(file.Text(number).value() + " %1");
     for (const auto& [form, captions] : file.Forms()) {
