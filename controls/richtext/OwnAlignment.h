@@ -13,7 +13,9 @@ bool IsListed(const wxRichTextAttr& paragraph);
 /// left, where the component draws their signs.
 wxTextAttrAlignment UsualAlignment(const wxRichTextAttr& basic, bool isListed);
 
-/// Gives the paragraphs that have no alignment of their own the usual one, and keeps it for them.
+/// Gives the paragraphs that have no alignment of their own the usual one, and keeps it for them. What reads
+/// from the left stays there, and in a text that does altogether nothing changes: whoever opens it in another
+/// language must not turn it round.
 void GiveOwnAlignment(wxRichTextParagraphLayoutBox& text, const wxRichTextAttr& basic);
 
 }  // namespace mindloft

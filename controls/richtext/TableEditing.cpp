@@ -86,7 +86,7 @@ bool HasEvenColumns(const wxRichTextTable& table) {
 
 void ShowChanged(RichEditor& editor, wxRichTextTable& table) {
   GiveCellsFont(editor);
-  GiveOwnAlignment(editor.GetBuffer(), editor.GetBasicStyle());
+  ForCells(table, [&](wxRichTextCell& cell) { GiveOwnAlignment(cell, editor.GetBasicStyle()); });
   // Also what holds the cell is laid out anew: the font decides how high an empty one is.
   if (auto* cell = table.GetCell(0, 0)) cell->InvalidateHierarchy(wxRICHTEXT_ALL);
   editor.LayoutContent();

@@ -23,6 +23,10 @@ wxString TextOfParagraph(const wxRichTextParagraph& paragraph) {
   return text;
 }
 
+bool IsTyped(const wxUniChar& character) {
+  return character != kObject && !wxIsspace(character);
+}
+
 std::vector<TextBlock> TextBlocks(wxRichTextCtrl& editor) {
   std::vector<TextBlock> blocks;
   ForParagraphs(editor.GetBuffer(), [&](auto& box, const wxRichTextParagraph& paragraph) {

@@ -23,4 +23,7 @@ std::vector<TextBlock> TextBlocks(wxRichTextCtrl& editor);
 
 wxString TextOfParagraph(const wxRichTextParagraph& paragraph);
 
+/// Whether a character of such a text is neither a blank nor what stands for an object.
+bool IsTyped(const wxUniChar& character);
+
 }  // namespace mindloft

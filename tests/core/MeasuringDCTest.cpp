@@ -6,6 +6,7 @@
 
 #include "backend/tessaline/Text.h"
 #include "platform/ui/MeasuringDC.h"
+#include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
 
@@ -55,6 +56,7 @@ TEST(MeasuringDCTest, ARichTextBoxMeasuresAsWindowsDraw) {
     }
   }
   frame->Destroy();
+  Settle();
 }
 
 TEST(MeasuringDCTest, MeasuresAsThePageDraws) {

@@ -101,10 +101,10 @@ TEST_F(RightToLeftTextTest, ParagraphsWithoutAnAlignmentAreAtTheRight) {
   ExpectAtTheRight("cutting all");
   control_->Clip(kClipPaste);
   ExpectAtTheRight("pasting");
-  control_->SetText("c\nd");
+  control_->SetText(wxString::FromUTF8("ج\n\nد"));
   ExpectAtTheRight("setting the text");
   const std::string stored = Stored();
-  control_->Content().LoadHtml("<h1>e</h1><ul><li>f</ul>");
+  control_->Content().LoadHtml("<h1>ه</h1><ul><li>و</ul>");
   ExpectAtTheRight("opening a page");
   control_->SetSelStart(2);
   EXPECT_TRUE(CommandOf("align-left").isChecked(*control_)) << "in a list";
@@ -134,6 +134,23 @@ TEST_F(RightToLeftTextTest, ParagraphsWithoutAnAlignmentAreAtTheRight) {
     const auto* paragraph = dynamic_cast<wxRichTextParagraph*>(cell.GetChildren().GetFirst()->GetData());
     EXPECT_EQ(paragraph->GetAttributes().GetAlignment(), wxTEXT_ALIGNMENT_RIGHT) << row;
   }
+}
+
+TEST_F(RightToLeftTextTest, WhatReadsFromTheLeftStaysThere) {
+  const auto sides = [this] {
+    std::string found;
+    ForParagraphs(control_->Editor().GetBuffer(), [&](auto&, const wxRichTextParagraph& paragraph) {
+      found += paragraph.GetAttributes().GetAlignment() == wxTEXT_ALIGNMENT_RIGHT ? 'R' : 'L';
+    });
+    return found;
+  };
+  control_->SetText("English\n\n123");
+  EXPECT_EQ(sides(), "LLL");
+  const std::string stored = Stored();
+  const auto paragraphs = stored.find('>', stored.find("<paragraphlayout"));
+  EXPECT_EQ(stored.find("alignment", paragraphs), std::string::npos) << "opened and stored: " << stored;
+  control_->SetText(wxString::FromUTF8("عربي\n\nEnglish"));
+  EXPECT_EQ(sides(), "RRL");
 }
 
 // A mirrored button of the toolkit's shows a thin line of its colour; the system's own are as the form is.
