@@ -61,7 +61,8 @@ void RichTextControl::BindEditor() {
     if (!isDone) Guarded(className_, "KeyDown", [&] { isDone = RunCellKey(*TXTextControl, event); });
     if (!isDone) event.Skip();
   });
-  // Tab types, or goes through a table; with Ctrl it leaves the text, whatever notebook the control stands in.
+  // Tab types, or goes through a table; with Ctrl it leaves the text, whatever notebook the control stands
+  // in.
   TXTextControl->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
     if (event.GetKeyCode() != WXK_TAB || !event.RawControlDown() || event.AltDown()) return event.Skip();
     TXTextControl->Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward
