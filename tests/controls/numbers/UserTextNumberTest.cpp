@@ -300,8 +300,9 @@ TEST_F(UserTextNumberTest, RightToLeftPutsTheSpinnerOnTheLeft) {
   frame.Show();
   User user(frame);
   WaitFor([&] { return user.Find("Text1").IsShownOnScreen() && panel->GetSize().x > 200; }, "the layout");
-  Settle();
-  EXPECT_LT(user.Find("UpDown1").GetScreenRect().x, user.Find("Text1").GetScreenRect().x);
+  // The window manager may size the frame once more.
+  WaitFor([&] { return user.Find("UpDown1").GetScreenRect().x < user.Find("Text1").GetScreenRect().x; },
+          "the spinner on the left");
 }
 
 }  // namespace mindloft::test
