@@ -8,6 +8,7 @@
 
 #include "controls/richtext/CellFonts.h"
 #include "controls/richtext/OwnAlignment.h"
+#include "controls/richtext/Paragraphs.h"
 #include "controls/richtext/RichEditor.h"
 
 namespace mindloft {
@@ -50,15 +51,6 @@ void GoTo(RichEditor& editor, const TableCell& place) {
   if (auto* cell = place.table->GetCell(row, column)) editor.SetFocusObject(cell);
 }
 
-template <typename Action>
-void ForCells(const wxRichTextTable& table, Action action) {
-  for (int row = 0; row < table.GetRowCount(); ++row) {
-    for (int column = 0; column < table.GetColumnCount(); ++column) {
-      if (auto* cell = table.GetCell(row, column)) action(*cell);
-    }
-  }
-}
-
 wxTextAttrDimension& WidthOf(wxRichTextObject& object) {
   return object.GetAttributes().GetTextBoxAttr().GetWidth();
 }
@@ -67,15 +59,15 @@ wxTextAttrDimension& WidthOf(wxRichTextObject& object) {
 /// types.
 void MakeColumnsEven(wxRichTextTable& table) {
   const int share = kWholeWidth / table.GetColumnCount();
-  ForCells(table,
-           [share](wxRichTextCell& cell) { WidthOf(cell).SetValue(share, wxTEXT_ATTR_UNITS_PERCENTAGE); });
+  ForCellsOf(table,
+             [share](wxRichTextCell& cell) { WidthOf(cell).SetValue(share, wxTEXT_ATTR_UNITS_PERCENTAGE); });
 }
 
 /// Whether the columns share the table's width evenly, as those of new tables do.
 bool HasEvenColumns(const wxRichTextTable& table) {
   int share = 0;
   bool isEven = true;
-  ForCells(table, [&](wxRichTextCell& cell) {
+  ForCellsOf(table, [&](wxRichTextCell& cell) {
     const auto& width = WidthOf(cell);
     if (share == 0) share = width.GetValue();
     isEven = isEven && width.IsValid() && width.GetUnits() == wxTEXT_ATTR_UNITS_PERCENTAGE &&
@@ -86,7 +78,7 @@ bool HasEvenColumns(const wxRichTextTable& table) {
 
 void ShowChanged(RichEditor& editor, wxRichTextTable& table) {
   GiveCellsFont(editor);
-  ForCells(table, [&](wxRichTextCell& cell) { GiveOwnAlignment(cell, editor.GetBasicStyle()); });
+  ForCellsOf(table, [&](wxRichTextCell& cell) { GiveOwnAlignment(cell, editor.GetBasicStyle()); });
   // Also what holds the cell is laid out anew: the font decides how high an empty one is.
   if (auto* cell = table.GetCell(0, 0)) cell->InvalidateHierarchy(wxRICHTEXT_ALL);
   editor.LayoutContent();
@@ -104,7 +96,7 @@ std::unique_ptr<wxRichTextTable> MakeTable(RichEditor& editor, int rows, int col
   table->CreateTable(rows, columns);
   wxRichTextAttr cellLook = CellLook();
   cellLook.SetTextColour(look.GetTextColour());
-  ForCells(*table, [&](wxRichTextCell& cell) { cell.SetAttributes(cellLook); });
+  ForCellsOf(*table, [&](wxRichTextCell& cell) { cell.SetAttributes(cellLook); });
   MakeColumnsEven(*table);
   table->SetParent(nullptr);
   return table;
@@ -242,7 +234,7 @@ void ApplyLook(RichEditor& editor, wxRichTextTable& table, const TableLook& look
   wxRichTextAttr inner;
   SetBorder(inner, look.hasBorder);
   SetPadding(inner, look.paddingTenths);
-  ForCells(table, [&](wxRichTextCell& cell) { editor.SetStyle(&cell, inner); });
+  ForCellsOf(table, [&](wxRichTextCell& cell) { editor.SetStyle(&cell, inner); });
   editor.EndBatchUndo();
   editor.LayoutContent();
   editor.Refresh();
