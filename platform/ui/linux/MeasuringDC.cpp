@@ -14,11 +14,7 @@ wxGraphicsContext* ContextOf(const wxDC& page) {
   if (!drawn) return wxGraphicsContext::Create();
   cairo_surface_t* alike =
       cairo_surface_create_similar(cairo_get_target(drawn), CAIRO_CONTENT_COLOR_ALPHA, 1, 1);
-  cairo_t* cairo = cairo_create(alike);
-  wxGraphicsContext* context = wxGraphicsContext::CreateFromNative(cairo);
-  cairo_destroy(cairo);
-  cairo_surface_destroy(alike);
-  return context;
+  return ContextOn(alike);
 }
 
 /// Leaves to the page what that tells rightly, and sets it as itself.

@@ -18,10 +18,7 @@ wxGraphicsContext* ContextOf(wxWindow& window) {
   GdkWindow* shown = gtk_widget_get_window(widget);
   if (!shown) return wxGraphicsContext::Create();
   cairo_surface_t* alike = gdk_window_create_similar_surface(shown, CAIRO_CONTENT_COLOR, 1, 1);
-  cairo_t* cairo = cairo_create(alike);
-  wxGraphicsContext* context = wxGraphicsContext::CreateFromNative(cairo);
-  cairo_destroy(cairo);
-  cairo_surface_destroy(alike);
+  wxGraphicsContext* context = ContextOn(alike);
   context->SetContentScaleFactor(window.GetContentScaleFactor());
   return context;
 }

@@ -31,6 +31,14 @@ std::vector<Cluster> ClustersOf(PangoLayout& layout) {
 
 }  // namespace
 
+wxGraphicsContext* ContextOn(cairo_surface_t* surface) {
+  cairo_t* cairo = cairo_create(surface);
+  wxGraphicsContext* context = wxGraphicsContext::CreateFromNative(cairo);
+  cairo_destroy(cairo);
+  cairo_surface_destroy(surface);
+  return context;
+}
+
 LayoutPointer MakeLayout(cairo_t* context, const wxFont& font, const wxScopedCharBuffer& utf8) {
   LayoutPointer layout(pango_cairo_create_layout(context));
   pango_layout_set_font_description(layout.get(), font.GetNativeFontInfo()->description);

@@ -3,6 +3,7 @@
 #include <pango/pangocairo.h>
 #include <wx/dynarray.h>
 #include <wx/font.h>
+#include <wx/graphics.h>
 #include <wx/string.h>
 
 #include <memory>
@@ -14,6 +15,9 @@ struct Unreference {
   void operator()(PangoLayoutIter* place) const { pango_layout_iter_free(place); }
 };
 using LayoutPointer = std::unique_ptr<PangoLayout, Unreference>;
+
+/// A context that draws on the surface, and keeps it in the caller's place.
+wxGraphicsContext* ContextOn(cairo_surface_t* surface);
 
 /// The text as the context draws it.
 LayoutPointer MakeLayout(cairo_t* context, const wxFont& font, const wxScopedCharBuffer& utf8);
