@@ -1,6 +1,7 @@
 #include "app/ConsoleApp.h"
 
 #include <wx/dcmemory.h>
+#include <wx/display.h>
 #include <wx/image.h>
 #include <wx/msgout.h>
 
@@ -15,7 +16,9 @@
 #include "core/ErrorHandling.h"
 #include "core/LanguageImport.h"
 #include "core/forms/Form.h"
+#include "core/forms/Images.h"
 #include "mainwindow/ApplicationServices.h"
+#include "mainwindow/FirstImages.h"
 #include "platform/Paths.h"
 #include "platform/Terminal.h"
 #include "platform/ui/Fonts.h"
@@ -61,10 +64,13 @@ bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
   }
   if (!options_.directoryIsMissing) {
     if (options_.directoryFile.empty()) options_.directoryFile = platform::DefaultDirectoryFile();
-    early_ = std::make_unique<EarlyLogin>(options_.directoryFile);
+    // Both are wanted next, the fonts a moment earlier.
     platform::BeginLoadingFonts();
+    early_ = std::make_unique<EarlyLogin>(options_.directoryFile);
   }
-  return wxApp::Initialize(argc, argv);
+  if (!wxApp::Initialize(argc, argv)) return false;
+  BeginDrawingImages(FirstImages(), wxDisplay().GetScaleFactor());
+  return true;
 } catch (...) {
   ReportOnly("ConsoleApp", "Initialize");
   return false;

@@ -9,6 +9,7 @@
 #include "backend/tessaline/Text.h"
 #include "backend/tessaline/login/SecretText.h"
 #include "core/ErrorHandling.h"
+#include "platform/Beside.h"
 
 namespace mindloft {
 namespace {
@@ -37,13 +38,17 @@ EarlyLogin::EarlyLogin(std::filesystem::path directoryFile) : file_(std::move(di
   try {
     const auto& resource = GetResource();
     if (!IsAutoLoginEnabled()) return;
-    prepared_ =
-        std::async(std::launch::async, Prepare, file_, ToUtf8(resource.GetSetting(Setting::LoginUserName)),
-                   resource.LoginPassword().Reader());
+    prepared_ = platform::Beside(
+        [file = file_, user = ToUtf8(resource.GetSetting(Setting::LoginUserName)),
+         readPassword = resource.LoginPassword().Reader()] { return Prepare(file, user, readPassword); });
   } catch (...) {
     // Without it the start is as right, only slower.
     ReportOnly("EarlyLogin", "EarlyLogin");
   }
+}
+
+EarlyLogin::~EarlyLogin() {
+  if (prepared_.valid()) prepared_.wait();
 }
 
 std::shared_ptr<Directory> EarlyLogin::Open() {

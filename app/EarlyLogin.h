@@ -13,10 +13,10 @@ namespace mindloft {
 /// starts: either takes about as long. Nobody is logged in by it, and nothing is changed.
 class EarlyLogin {
  public:
-  /// Begins at once, on a thread of its own, when the settings ask for an automatic login.
+  /// Begins when the settings ask for an automatic login.
   explicit EarlyLogin(std::filesystem::path directoryFile);
-  /// Waits for the thread.
-  ~EarlyLogin() = default;
+  /// Waits for the work.
+  ~EarlyLogin();
 
   /// The directory: the prepared one for the first caller, one opened anew for all others and where the
   /// preparation failed. Throws as SqliteDirectory::Open.

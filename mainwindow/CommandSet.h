@@ -16,7 +16,6 @@ struct Command {
   /// reported as <name>_Click.
   wxString name;
   wxString shortcut;  ///< "Ctrl+F"; empty: none
-  wxString icon;      ///< of resources/images; empty: none
   std::function<void()> run;
   std::function<bool(const SelectionState& selection)> enabled = {};  ///< empty: always
   std::function<bool()> checked = {};                                 ///< empty: no check mark

@@ -30,31 +30,30 @@ using Member = KindCommand DirectoryKind::*;
 }  // namespace
 
 void AddKindCommands(CommandSet& commands, const ObjectKindRegistry& kinds, ObjectMenu& menu) {
-  const auto add = [&](const wxString& name, const wxString& shortcut, const wxString& icon,
+  const auto add = [&](const wxString& name, const wxString& shortcut,
                        std::function<bool(const SelectionState&)> enabled) {
-    if (!name.empty()) commands.Add({name, shortcut, icon, menu.Handler(name), std::move(enabled)});
+    if (!name.empty()) commands.Add({name, shortcut, menu.Handler(name), std::move(enabled)});
   };
-  const auto addForSelection = [&](const wxString& name, const wxString& shortcut, const wxString& icon,
-                                   Member member) {
-    add(name, shortcut, icon, [member](const SelectionState& selection) {
+  const auto addForSelection = [&](const wxString& name, const wxString& shortcut, Member member) {
+    add(name, shortcut, [member](const SelectionState& selection) {
       return selection.target && PossibleOnTargets(selection.target->*member, selection);
     });
   };
-  const auto addOfKind = [&](const DirectoryKind& kind, const wxString& icon, Member member) {
-    add((kind.*member).name, {}, icon, [&kind, member](const SelectionState& selection) {
+  const auto addOfKind = [&](const DirectoryKind& kind, Member member) {
+    add((kind.*member).name, {}, [&kind, member](const SelectionState& selection) {
       return selection.target == &kind && PossibleOnTargets(kind.*member, selection);
     });
   };
 
-  add("mnuFileNew", "Ctrl+N", "new",
+  add("mnuFileNew", "Ctrl+N",
       [](const SelectionState& selection) { return CanCreate(selection.listed, selection); });
-  addForSelection("mnuFileDelete", {}, "delete", &DirectoryKind::remove);
-  addForSelection("mnuFileProperties", "Alt+Enter", "properties", &DirectoryKind::edit);
+  addForSelection("mnuFileDelete", {}, &DirectoryKind::remove);
+  addForSelection("mnuFileProperties", "Alt+Enter", &DirectoryKind::edit);
   for (const auto& kind : kinds.All()) {
-    add(kind.create.name, {}, "new",
+    add(kind.create.name, {},
         [&kind](const SelectionState& selection) { return CanCreate(&kind, selection); });
-    addOfKind(kind, "delete", &DirectoryKind::remove);
-    addOfKind(kind, "properties", &DirectoryKind::edit);
+    addOfKind(kind, &DirectoryKind::remove);
+    addOfKind(kind, &DirectoryKind::edit);
   }
 }
 

@@ -44,11 +44,9 @@ void About(frmSysAdmin& form) {
 }
 
 void AddViewCommands(CommandSet& commands, frmSysAdmin& form) {
-  commands.Add(
-      {.name = "mnuViewRefresh", .shortcut = "F5", .icon = "refresh", .run = [&form] { form.RefreshAll(); }});
+  commands.Add({.name = "mnuViewRefresh", .shortcut = "F5", .run = [&form] { form.RefreshAll(); }});
   commands.Add({.name = "mnuViewSortDescending",
                 .shortcut = {},
-                .icon = {},
                 .run =
                     [&form] {
                       auto& explorer = form.Explorer();
@@ -59,39 +57,34 @@ void AddViewCommands(CommandSet& commands, frmSysAdmin& form) {
                 .checked = [&form] { return form.Explorer().SortDescending(); }});
   commands.Add({.name = "mnuViewToolbar",
                 .shortcut = {},
-                .icon = {},
                 .run = [&form] { form.Tools().Show(!form.Tools().IsShown()); },
                 .checked = [&form] { return form.Tools().IsShown(); }});
   commands.Add({.name = "mnuViewStatusBar",
                 .shortcut = {},
-                .icon = {},
                 .run = [&form] { form.Status().Show(!form.Status().IsShown()); },
                 .checked = [&form] { return form.Status().IsShown(); }});
   commands.Add({.name = "mnuViewFullScreen",
                 .shortcut = "F11",
-                .icon = "fullscreen",
                 .run = [&form] { form.ToggleFullScreen(); },
                 .checked = [&form] { return form.IsFullScreen(); }});
 }
 
 void AddToolCommands(CommandSet& commands, frmSysAdmin& form) {
   // It has no window yet: shown disabled.
-  commands.Add({.name = "mnuFilePrintSetup", .shortcut = {}, .icon = "print", .run = {}});
-  commands.Add({.name = "mnuToolsConfiguration", .shortcut = {}, .icon = "settings", .run = [&form] {
+  commands.Add({.name = "mnuFilePrintSetup", .shortcut = {}, .run = {}});
+  commands.Add({.name = "mnuToolsConfiguration", .shortcut = {}, .run = [&form] {
                   frmConfiguration(&form).ShowModal();
                 }});
-  commands.Add({.name = "mnuToolsURL", .shortcut = {}, .icon = {}, .run = [&form] {
+  commands.Add({.name = "mnuToolsURL", .shortcut = {}, .run = [&form] {
                   frmURL(&form, frmURL::Purpose::KeepList).ShowModal();
                 }});
 
   commands.Add({.name = "mnuToolsStyles",
                 .shortcut = {},
-                .icon = "style",
                 .run = [&form] { frmStyles(&form).OpenWindow(); },
                 .enabled = [](const SelectionState&) { return CheckSysPrivilege(ManageStyles); }});
   commands.Add({.name = "mnuToolsWorkingFolder",
                 .shortcut = {},
-                .icon = {},
                 .run = [&form] { AskWorkingFolder(form); },
                 .enabled =
                     [](const SelectionState&) {
@@ -100,26 +93,22 @@ void AddToolCommands(CommandSet& commands, frmSysAdmin& form) {
   commands.Add(
       {.name = "mnuHelpContents",
        .shortcut = "F1",
-       .icon = "help",
        .run = [] { GetApplicationServices().showHelp(); },
        .enabled =
            [](const SelectionState&) { return static_cast<bool>(GetApplicationServices().showHelp); }});
-  commands.Add({.name = "mnuHelpAbout", .shortcut = {}, .icon = {}, .run = [&form] { About(form); }});
+  commands.Add({.name = "mnuHelpAbout", .shortcut = {}, .run = [&form] { About(form); }});
 }
 
 }  // namespace
 
 void AddMainCommands(CommandSet& commands, frmSysAdmin& form) {
-  commands.Add(
-      {.name = "mnuFileExit", .shortcut = "Ctrl+Q", .icon = "exit", .run = [&form] { form.Close(); }});
+  commands.Add({.name = "mnuFileExit", .shortcut = "Ctrl+Q", .run = [&form] { form.Close(); }});
   commands.Add({.name = "mnuEditSelectAll",
                 .shortcut = "Ctrl+A",
-                .icon = {},
                 .run = [&form] { SelectAll(form); },
                 .enabled = [](const SelectionState& selection) { return selection.rows > 0; }});
   commands.Add({.name = "mnuEditFind",
                 .shortcut = "Ctrl+F",
-                .icon = "find",
                 .run = [&form] { form.Explorer().FocusSearch(); },
                 .enabled = [](const SelectionState& selection) { return !selection.nodeKey.empty(); }});
   AddViewCommands(commands, form);

@@ -4,7 +4,6 @@
 #include <wx/frame.h>
 #include <wx/toolbar.h>
 
-#include "controls/rows/DirectoryImages.h"
 #include "mainwindow/CommandSet.h"
 #include "platform/ui/Direction.h"
 
@@ -15,9 +14,21 @@ namespace {
 /// In pixels at 96 dpi.
 constexpr int kToolSize = 20;
 
-constexpr const char* kTools[] = {"mnuFileNew",        "mnuFileDelete",  "mnuFileProperties",     "",
-                                  "mnuViewRefresh",    "mnuEditFind",    "mnuToolsConfiguration", "",
-                                  "mnuViewFullScreen", "mnuHelpContents"};
+struct Tool {
+  const char* command;  ///< empty: a separator
+  const char* image;
+};
+
+constexpr Tool kTools[] = {{"mnuFileNew", "new"},
+                           {"mnuFileDelete", "delete"},
+                           {"mnuFileProperties", "properties"},
+                           {"", ""},
+                           {"mnuViewRefresh", "refresh"},
+                           {"mnuEditFind", "find"},
+                           {"mnuToolsConfiguration", "settings"},
+                           {"", ""},
+                           {"mnuViewFullScreen", "fullscreen"},
+                           {"mnuHelpContents", "help"}};
 
 }  // namespace
 
@@ -29,27 +40,33 @@ void MainToolBar::Build() {
   }
   auto* bar = frame_.CreateToolBar(wxTB_FLAT | wxTB_HORIZONTAL, wxID_ANY, "tbrMain");
   bar->SetLayoutDirection(frame_.GetLayoutDirection());
-  for (const wxString name : kTools) {
-    const auto* command = commands_.Find(name);
-    if (!command) {
+  for (const auto& [name, image] : kTools) {
+    if (!commands_.Find(name)) {
       bar->AddSeparator();
       continue;
     }
     bar->AddTool(CommandSet::Id(name), wxControl::RemoveMnemonics(CommandSet::Caption(name)),
-                 LoadImage(command->icon, kToolSize), CommandSet::Tip(name));
+                 LoadImage(image, kToolSize), CommandSet::Tip(name));
   }
   bar->Realize();
   platform::ApplyDirectionInside(*bar);
   if (!shown) Show(false);
 }
 
+std::vector<WantedImage> MainToolBar::Images() {
+  std::vector<WantedImage> images;
+  for (const auto& tool : kTools)
+    if (*tool.image) images.push_back({tool.image, kToolSize});
+  return images;
+}
+
 void MainToolBar::Update(const SelectionState& selection) {
   auto* bar = frame_.GetToolBar();
   if (!bar) return;
-  for (const wxString name : kTools)
-    if (const auto* command = commands_.Find(name)) {
+  for (const auto& tool : kTools)
+    if (const auto* command = commands_.Find(tool.command)) {
       const bool enabled = CommandSet::Enabled(*command, selection);
-      const int id = CommandSet::Id(name);
+      const int id = CommandSet::Id(tool.command);
       if (bar->GetToolEnabled(id) != enabled) bar->EnableTool(id, enabled);
     }
 }

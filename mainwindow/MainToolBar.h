@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "core/forms/Images.h"
 #include "mainwindow/SelectionReader.h"
 
 class wxFrame;
@@ -19,6 +22,9 @@ class MainToolBar {
   void Update(const SelectionState& selection);
   bool IsShown() const;
   void Show(bool show);
+
+  /// The drawings of its tools.
+  static std::vector<WantedImage> Images();
 
  private:
   wxFrame& frame_;

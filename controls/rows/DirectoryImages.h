@@ -21,6 +21,9 @@ enum ExplorerImage : int {
   StyleImage = 8,
 };
 
+/// The drawings of the explorer's images.
+std::vector<WantedImage> ExplorerDrawings();
+
 /// The explorer's images, in the order of ExplorerImage.
 std::vector<wxBitmapBundle> ExplorerImages();
 

@@ -2,13 +2,12 @@
 
 #include <fontconfig/fontconfig.h>
 
-#include <future>
+#include "platform/Beside.h"
 
 namespace mindloft::platform {
 
 void BeginLoadingFonts() {
-  // Kept until the program's end, which waits for it.
-  static const std::future<void> loading = std::async(std::launch::async, [] { FcInit(); });
+  QueueBeside([] { FcInit(); });
 }
 
 }  // namespace mindloft::platform
