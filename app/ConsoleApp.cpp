@@ -84,7 +84,7 @@ bool ConsoleApp::OnInit() try {
   const auto showName = [this] { SetAppDisplayName(GetResource().GetString(kApplicationTitle)); };
   showName();
   language_ = GetRefresh()->OnNotifyLanguage(showName);
-  platform::DrawTreeButtonsAsShapes();
+  platform::DrawPartsAsShapes();
   SetHelpAction(ShowHelp);
   auto& services = GetApplicationServices();
   services.showHelp = ShowHelp;

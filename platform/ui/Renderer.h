@@ -2,9 +2,10 @@
 
 namespace mindloft::platform {
 
-/// Draws the buttons of trees, where the toolkit draws trees itself, as shapes in the desktop's text colour.
-/// The desktop's own are pictures of its icon theme: looking for them and loading the library that draws them
-/// costs a fifth of the console's start. Call it once, when the toolkit has started.
-void DrawTreeButtonsAsShapes();
+/// Draws the buttons of trees, the headings of lists and the borders between panes as shapes in the desktop's
+/// colours, where the toolkit draws trees and lists itself. For the desktop's own it looks for pictures of
+/// the icon theme, and makes hidden controls whose style it asks for: a quarter of the console's start. Call
+/// it once, when the toolkit has started.
+void DrawPartsAsShapes();
 
 }  // namespace mindloft::platform

@@ -3,6 +3,6 @@
 namespace mindloft::platform {
 
 // The system's trees draw themselves.
-void DrawTreeButtonsAsShapes() {}
+void DrawPartsAsShapes() {}
 
 }  // namespace mindloft::platform
