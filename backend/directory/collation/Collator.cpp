@@ -1,19 +1,19 @@
 #include "backend/directory/collation/Collator.h"
 
-#include <unicode/ucol.h>
-#include <unicode/ustring.h>
-
 #include <array>
 #include <mutex>
 #include <vector>
 
 #include "backend/errors/Error.h"
+#include "platform/CollationLibrary.h"
 
 namespace mindloft {
 namespace {
 
 constexpr std::array kLocales = {"root", "zh", "ja", "ar", "tr"};
 static_assert(kLocales.size() == kLanguageRules.size());
+
+using Icu = platform::CollationLibrary;
 
 constexpr UChar32 kReplacement = 0xFFFD;
 
@@ -25,14 +25,15 @@ void Require(UErrorCode status, LanguageRules rules) {
   // A fallback is a success with a warning for the library; for the order it is another one.
   const bool another = status == U_USING_DEFAULT_WARNING && rules != LanguageRules::Neutral;
   if (U_FAILURE(status) || another) {
-    throw Error(ErrorNumber::CollationMissing, std::string(LocaleOf(rules)) + ": " + u_errorName(status));
+    throw Error(ErrorNumber::CollationMissing,
+                std::string(LocaleOf(rules)) + ": " + Icu::Get().errorName(status));
   }
 }
 
 }  // namespace
 
 void Collator::Close::operator()(UCollator* collator) const {
-  ucol_close(collator);
+  Icu::Get().close(collator);
 }
 
 const Collator& Collator::Of(LanguageRules rules) {
@@ -45,15 +46,16 @@ const Collator& Collator::Of(LanguageRules rules) {
 }
 
 Collator::Collator(LanguageRules rules) : whole_(Open(rules)), letters_(Open(rules)) {
-  ucol_setStrength(letters_.get(), UCOL_PRIMARY);
+  Icu::Get().setStrength(letters_.get(), UCOL_PRIMARY);
 }
 
 Collator::Handle Collator::Open(LanguageRules rules) {
+  const auto& icu = Icu::Get();
   UErrorCode status = U_ZERO_ERROR;
-  Handle collator(ucol_open(LocaleOf(rules).data(), &status));
+  Handle collator(icu.open(LocaleOf(rules).data(), &status));
   Require(status, rules);
   // Folded texts are composed, but not every composed text can be read without looking at its marks' order.
-  ucol_setAttribute(collator.get(), UCOL_NORMALIZATION_MODE, UCOL_ON, &status);
+  icu.setAttribute(collator.get(), UCOL_NORMALIZATION_MODE, UCOL_ON, &status);
   Require(status, rules);
   return collator;
 }
@@ -65,11 +67,12 @@ std::string Collator::KeyOf(const Handle& collator, std::string_view folded) {
   text.resize(folded.size() + 1);
   UErrorCode status = U_ZERO_ERROR;
   std::int32_t length = 0;
-  u_strFromUTF8WithSub(text.data(), static_cast<std::int32_t>(text.size()), &length, folded.data(),
-                       static_cast<std::int32_t>(folded.size()), kReplacement, nullptr, &status);
-  if (U_FAILURE(status)) throw Error(ErrorNumber::Unexpected, u_errorName(status));
+  const auto& icu = Icu::Get();
+  icu.fromUtf8(text.data(), static_cast<std::int32_t>(text.size()), &length, folded.data(),
+               static_cast<std::int32_t>(folded.size()), kReplacement, nullptr, &status);
+  if (U_FAILURE(status)) throw Error(ErrorNumber::Unexpected, icu.errorName(status));
   for (;;) {
-    const auto needed = static_cast<std::size_t>(ucol_getSortKey(
+    const auto needed = static_cast<std::size_t>(icu.getSortKey(
         collator.get(), text.data(), length, key.data(), static_cast<std::int32_t>(key.size())));
     if (needed == 0) throw std::bad_alloc();
     if (needed <= key.size()) return {key.begin(), key.begin() + static_cast<std::ptrdiff_t>(needed) - 1};
@@ -87,9 +90,10 @@ std::string Collator::PrefixKey(std::string_view folded) const {
 
 std::string Collator::Version() const {
   UVersionInfo version = {};
-  ucol_getVersion(whole_.get(), version);
+  const auto& icu = Icu::Get();
+  icu.getVersion(whole_.get(), version);
   char text[U_MAX_VERSION_STRING_LENGTH] = {};
-  u_versionToString(version, text);
+  icu.versionToString(version, text);
   return text;
 }
 
