@@ -23,6 +23,11 @@ std::size_t SequenceLength(std::string_view bytes) {
   return overlong || outside ? 0 : length;
 }
 
+bool IsAscii(std::string_view bytes) {
+  return std::all_of(bytes.begin(), bytes.end(),
+                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 std::string Repaired(std::string_view bytes) {
   std::string repaired;
   repaired.reserve(bytes.size() + 8);
@@ -69,6 +74,8 @@ bool IsValidUtf8(std::string_view bytes) {
 }
 
 wxString ToWx(std::string_view utf8) {
+  // Most texts are, and it is several times as fast.
+  if (IsAscii(utf8)) return wxString(std::wstring(utf8.begin(), utf8.end()));
   if (IsValidUtf8(utf8)) return wxString::FromUTF8(utf8.data(), utf8.size());
   std::string repaired = Repaired(utf8);
   return wxString::FromUTF8(repaired.data(), repaired.size());

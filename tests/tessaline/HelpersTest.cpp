@@ -84,7 +84,8 @@ TEST_F(HelpersTest, StringsAreMeasuredInCharacters) {
 }
 
 TEST_F(HelpersTest, Utf8SurvivesAndBrokenBytesAreReplaced) {
-  for (std::string text : {std::string("a\u00e9\u4e2d\U0001F600"), std::string("a\0b", 3), std::string()}) {
+  for (std::string text : {std::string("a\u00e9\u4e2d\U0001F600"), std::string("a\0b", 3),
+                           std::string("\u00e9\0b", 4), std::string()}) {
     EXPECT_EQ(ToUtf8(ToWx(text)), text);
   }
   EXPECT_EQ(ToUtf8(ToWx("a\xFF"
