@@ -42,8 +42,9 @@ void ReportWhenReady(wxTopLevelWindow& window) {
 
     if (!clock->HasPainted()) return;
 
+    const double now = NowMs();
     const char* begin = std::getenv(kBegin);
-    std::printf("ready %.2f\npeak %ld\n", NowMs() - (begin ? std::atof(begin) : 0), PeakKiB());
+    std::printf("ready %.2f\npeak %ld\n", now - (begin ? std::atof(begin) : 0), PeakKiB());
     std::fflush(stdout);
     _exit(0);
   });

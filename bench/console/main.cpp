@@ -16,6 +16,7 @@
 #include <stdexcept>
 
 #include "app/ConsoleApp.h"
+#include "backend/directory/SqliteDirectory.h"
 #include "bench/console/StartClock.h"
 #include "bench/console/Walk.h"
 
@@ -62,6 +63,9 @@ double Median(std::vector<double> values) {
 Figures MeasureConsole(const std::string& self, const char* what, const std::string& folder) {
   setenv("XDG_CONFIG_HOME", (folder + "/config").c_str(), 1);
   setenv("XDG_STATE_HOME", (folder + "/state").c_str(), 1);
+  // A measured process ends without closing its directory: the next one would read what all before it left
+  // in the log beside the file, as after so many crashes.
+  SqliteDirectory::Open(folder + "/sample.directory");
   return RunMeasured({self, "--measure", what, "--directory", folder + "/sample.directory"});
 }
 
