@@ -8,6 +8,7 @@
 #include "config/frmConfiguration.h"
 #include "config/frmURL.h"
 #include "controls/explorer/ctExplorer.h"
+#include "controls/print/frmPageSetup.h"
 #include "core/modShare.h"
 #include "editors/styles/frmStyles.h"
 #include "mainwindow/ApplicationServices.h"
@@ -70,8 +71,10 @@ void AddViewCommands(CommandSet& commands, frmSysAdmin& form) {
 }
 
 void AddToolCommands(CommandSet& commands, frmSysAdmin& form) {
-  // It has no window yet: shown disabled.
-  commands.Add({.name = "mnuFilePrintSetup", .shortcut = {}, .run = {}});
+  commands.Add({.name = "mnuFilePrintSetup", .shortcut = {}, .run = [&form] {
+                  auto page = LoadPageSettings();
+                  AskForPage(form, page);
+                }});
   commands.Add({.name = "mnuToolsConfiguration", .shortcut = {}, .run = [&form] {
                   frmConfiguration(&form).ShowModal();
                 }});

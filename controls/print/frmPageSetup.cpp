@@ -80,4 +80,12 @@ void frmPageSetup::CmdCancel_Click() try {
   ShowError(kName, "CmdCancel_Click");
 }
 
+bool AskForPage(wxWindow& parent, PageSettings& page) {
+  frmPageSetup form(wxGetTopLevelParent(&parent));
+  if (!form.ShowPageSetup(page)) return false;
+  page = form.Settings();
+  SavePageSettings(page);
+  return true;
+}
+
 }  // namespace mindloft

@@ -74,4 +74,8 @@ class frmPageSetup : public FormDialog {
   mindloft::Refresh::Subscription language_;
 };
 
+/// Lets the user choose the page; false, and no change, when they cancelled. What was chosen is kept for the
+/// user.
+bool AskForPage(wxWindow& parent, PageSettings& page);
+
 }  // namespace mindloft

@@ -8,7 +8,6 @@
 #include <memory>
 
 #include "backend/tessaline/Services.h"
-#include "controls/print/frmPageSetup.h"
 #include "controls/richtext/PreviewWindow.h"
 #include "core/ErrorHandling.h"
 #include "platform/ui/MeasuringDC.h"
@@ -52,14 +51,6 @@ std::unique_ptr<Printout> MakePrintout(const wxRichTextBuffer& document, const P
 }
 
 }  // namespace
-
-bool AskForPage(wxWindow& parent, PageSettings& page) {
-  frmPageSetup form(wxGetTopLevelParent(&parent));
-  if (!form.ShowPageSetup(page)) return false;
-  page = form.Settings();
-  SavePageSettings(page);
-  return true;
-}
 
 void DocumentPrinting::Print(const wxRichTextBuffer& document, bool asks) {
   wxPrintDialogData data(ToPrintData(page_));

@@ -7,10 +7,6 @@ class wxWindow;
 
 namespace mindloft {
 
-/// Lets the user choose the page; false, and no change, when they cancelled. What was chosen is kept for the
-/// user.
-bool AskForPage(wxWindow& parent, PageSettings& page);
-
 /// Prints documents on the pages of these settings, each with its number below the text.
 class DocumentPrinting {
  public:

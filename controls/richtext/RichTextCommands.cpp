@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "backend/tessaline/Services.h"
+#include "controls/print/frmPageSetup.h"
 #include "controls/richtext/DocumentPrinting.h"
 #include "controls/richtext/FormatDialogs.h"
 #include "controls/richtext/RichTextControl.h"

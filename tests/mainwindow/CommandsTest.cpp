@@ -9,9 +9,11 @@
 #include "core/Refresh.h"
 #include "mainwindow/CommandSet.h"
 #include "mainwindow/DirectoryTree.h"
+#include "mainwindow/FirstImages.h"
 #include "mainwindow/LanguageMenu.h"
 #include "mainwindow/ObjectKindRegistry.h"
 #include "tests/mainwindow/MainWindowTest.h"
+#include "tests/support/gui/ModalDriver.h"
 #include "tests/support/gui/WaitFor.h"
 
 namespace mindloft::test {
@@ -33,13 +35,13 @@ class CommandsTest : public MainWindowTest {
   std::vector<std::vector<wxString>> called_;
 };
 
-TEST_F(CommandsTest, NothingIsEnabledBeforeItExists) {
-  Open();
+TEST_F(CommandsTest, CommandsOfTheWindowNeedNoPrivilege) {
+  Open("plain");
   Select({"59300", "59303"});
   Explorer().SelectListRow(0);
   Settle();
-  EXPECT_FALSE(IsEnabled("mnuFilePrintSetup"));
-  for (const char* name : {"mnuFileExit", "mnuEditSelectAll", "mnuEditFind", "mnuViewRefresh"})
+  for (const char* name :
+       {"mnuFileExit", "mnuFilePrintSetup", "mnuEditSelectAll", "mnuEditFind", "mnuViewRefresh"})
     EXPECT_TRUE(IsEnabled(name)) << name;
 }
 
@@ -75,6 +77,18 @@ TEST_F(CommandsTest, PrivilegesAndSelectionDecide) {
     EXPECT_THAT(called_, testing::ElementsAre(std::vector<wxString>{DomainKey("Alpha")}));
     ASSERT_TRUE(CloseWindow());
   }
+}
+
+TEST_F(CommandsTest, PrintSetupAsksForThePage) {
+  Open();
+  ModalDriver modal;
+  modal.ExpectForm("frmPageSetup", [](User& user) { user.Click("CmdCancel"); });
+  User(*form_).Command("mnuFilePrintSetup");
+  modal.Verify();
+}
+
+TEST_F(CommandsTest, EveryDrawingOfTheFirstPictureExists) {
+  for (const auto& [name, size] : FirstImages()) EXPECT_TRUE(LoadImage(name, size).IsOk()) << name;
 }
 
 TEST_F(CommandsTest, LanguageSwitchReachesTheOpenWindow) {
