@@ -1,7 +1,6 @@
 #include "app/ConsoleApp.h"
 
 #include <wx/dcmemory.h>
-#include <wx/display.h>
 #include <wx/image.h>
 #include <wx/msgout.h>
 
@@ -16,9 +15,7 @@
 #include "core/ErrorHandling.h"
 #include "core/LanguageImport.h"
 #include "core/forms/Form.h"
-#include "core/forms/Images.h"
 #include "mainwindow/ApplicationServices.h"
-#include "mainwindow/FirstImages.h"
 #include "platform/Paths.h"
 #include "platform/Terminal.h"
 #include "platform/ui/Fonts.h"
@@ -68,9 +65,7 @@ bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
     platform::BeginLoadingFonts();
     early_ = std::make_unique<EarlyLogin>(options_.directoryFile);
   }
-  if (!wxApp::Initialize(argc, argv)) return false;
-  BeginDrawingImages(FirstImages(), wxDisplay().GetScaleFactor());
-  return true;
+  return wxApp::Initialize(argc, argv);
 } catch (...) {
   ReportOnly("ConsoleApp", "Initialize");
   return false;

@@ -1,10 +1,14 @@
 #include "app/frmHidden.h"
 
+#include <wx/display.h>
+
 #include "app/modPublic.h"
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "core/ErrorHandling.h"
+#include "core/forms/Images.h"
 #include "mainwindow/CommandLineState.h"
+#include "mainwindow/FirstImages.h"
 
 namespace mindloft {
 
@@ -17,6 +21,9 @@ void frmHidden::Form_Load(const wxString& commandLine) try {
     return;
   }
   Listen();
+  // Not sooner: on Windows the display brings a window, which would keep a second instance's hand-over
+  // waiting.
+  BeginDrawingImages(FirstImages(), wxDisplay().GetScaleFactor());
   GetUtility().Log("start: version " MINDLOFT_VERSION);
   TellLanguageProblem();
   auto services = services_;
