@@ -1,10 +1,7 @@
 #include "platform/CollationLibrary.h"
 
-#include <dlfcn.h>
-
-#include <string>
-
 #include "backend/errors/Error.h"
+#include "platform/linux/LoadedLibrary.h"
 
 // The library's names carry its version, which its headers put into them by macros.
 #define MINDLOFT_QUOTED(name) #name
@@ -17,13 +14,12 @@ namespace {
 constexpr const char* kFile = "libicui18n.so." U_ICU_VERSION_SHORT;
 
 CollationLibrary Load() {
-  const auto missing = [] { return Error(ErrorNumber::CollationMissing, dlerror()); };
-  void* handle = dlopen(kFile, RTLD_NOW | RTLD_NODELETE);
-  if (!handle) throw missing();
-  const auto find = [&](auto& function, const char* name) {
-    function = reinterpret_cast<std::decay_t<decltype(function)>>(dlsym(handle, name));
-    if (!function) throw missing();
+  const auto require = [](bool found) {
+    if (!found) throw Error(ErrorNumber::CollationMissing, dlerror());
   };
+  const LoadedLibrary icu(kFile);
+  require(static_cast<bool>(icu));
+  const auto find = [&](auto& function, const char* name) { require(icu.Find(function, name)); };
   CollationLibrary library;
   find(library.open, MINDLOFT_NAME(ucol_open));
   find(library.close, MINDLOFT_NAME(ucol_close));

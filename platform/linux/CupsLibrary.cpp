@@ -1,20 +1,14 @@
 #include "platform/linux/CupsLibrary.h"
 
-#include <dlfcn.h>
-
-#include <type_traits>
+#include "platform/linux/LoadedLibrary.h"
 
 namespace mindloft::platform {
 namespace {
 
 bool Load(CupsLibrary& cups) {
-  // A question that nobody waits for any more may still run in it when the program ends.
-  void* handle = dlopen("libcups.so.2", RTLD_NOW | RTLD_NODELETE);
-  if (!handle) return false;
-  const auto find = [handle](auto& function, const char* name) {
-    function = reinterpret_cast<std::decay_t<decltype(function)>>(dlsym(handle, name));
-    return function != nullptr;
-  };
+  const LoadedLibrary library("libcups.so.2");
+  if (!library) return false;
+  const auto find = [&library](auto& function, const char* name) { return library.Find(function, name); };
   return find(cups.connect, "httpConnect2") && find(cups.close, "httpClose") &&
          find(cups.setTimeout, "httpSetTimeout") && find(cups.server, "cupsServer") &&
          find(cups.port, "ippPort") && find(cups.encryption, "cupsEncryption") &&

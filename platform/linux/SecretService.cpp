@@ -1,22 +1,19 @@
 #include "platform/linux/SecretService.h"
 
-#include <dlfcn.h>
 #include <libsecret/secret.h>
+
+#include "platform/linux/LoadedLibrary.h"
 
 namespace mindloft::platform {
 namespace {
 
-/// What is used of the library; it stays loaded, as the toolkit's types that it registers cannot go.
+/// What is used of the library.
 struct Library {
   Library() {
-    void* handle = dlopen("libsecret-1.so.0", RTLD_NOW | RTLD_NODELETE);
-    if (!handle) return;
-    const auto find = [handle](auto& function, const char* name) {
-      function = reinterpret_cast<std::decay_t<decltype(function)>>(dlsym(handle, name));
-      return function != nullptr;
-    };
-    isLoaded = find(store, "secret_password_store_sync") && find(lookup, "secret_password_lookup_sync") &&
-               find(clear, "secret_password_clear_sync") && find(free, "secret_password_free");
+    const LoadedLibrary secret("libsecret-1.so.0");
+    isLoaded = secret && secret.Find(store, "secret_password_store_sync") &&
+               secret.Find(lookup, "secret_password_lookup_sync") &&
+               secret.Find(clear, "secret_password_clear_sync") && secret.Find(free, "secret_password_free");
   }
 
   decltype(&secret_password_store_sync) store = nullptr;
