@@ -26,10 +26,8 @@ CollationLibrary Load() {
   find(library.setStrength, MINDLOFT_NAME(ucol_setStrength));
   find(library.setAttribute, MINDLOFT_NAME(ucol_setAttribute));
   find(library.getSortKey, MINDLOFT_NAME(ucol_getSortKey));
-  find(library.getVersion, MINDLOFT_NAME(ucol_getVersion));
   find(library.fromUtf8, MINDLOFT_NAME(u_strFromUTF8WithSub));
   find(library.errorName, MINDLOFT_NAME(u_errorName));
-  find(library.versionToString, MINDLOFT_NAME(u_versionToString));
   return library;
 }
 

@@ -45,6 +45,10 @@ const Collator& Collator::Of(LanguageRules rules) {
   return *collator;
 }
 
+std::string_view Collator::Edition() {
+  return "icu " U_ICU_VERSION;
+}
+
 Collator::Collator(LanguageRules rules) : whole_(Open(rules)), letters_(Open(rules)) {
   Icu::Get().setStrength(letters_.get(), UCOL_PRIMARY);
 }
@@ -86,15 +90,6 @@ std::string Collator::SortKey(std::string_view folded) const {
 
 std::string Collator::PrefixKey(std::string_view folded) const {
   return KeyOf(letters_, folded);
-}
-
-std::string Collator::Version() const {
-  UVersionInfo version = {};
-  const auto& icu = Icu::Get();
-  icu.getVersion(whole_.get(), version);
-  char text[U_MAX_VERSION_STRING_LENGTH] = {};
-  icu.versionToString(version, text);
-  return text;
 }
 
 }  // namespace mindloft

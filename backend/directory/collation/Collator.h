@@ -16,6 +16,9 @@ class Collator {
  public:
   /// Made at its first use and kept. CollationMissing when the library lacks the language's rules.
   static const Collator& Of(LanguageRules rules);
+  /// Names the edition of all rules: orders made by another one may differ. It is known without a collator,
+  /// which takes a start more than a millisecond to make: the library's data have the version of its headers.
+  static std::string_view Edition();
 
   /// Keys compare as bytes, as the rules order their texts; they hold no zero. Equal keys are texts that the
   /// rules do not tell apart.
@@ -23,8 +26,6 @@ class Collator {
   /// What the sort keys begin with of all texts whose letters begin with these, accents aside where the
   /// language takes them for marks on a letter ("mu" begins "Müller" in German, not in Turkish).
   std::string PrefixKey(std::string_view folded) const;
-  /// Names the rules' edition: orders made by another one may differ.
-  std::string Version() const;
 
  private:
   struct Close {

@@ -12,7 +12,7 @@ namespace {
 /// Whether this program orders as the one did that stored this.
 bool IsCurrent(std::int64_t number, std::string_view edition) {
   const auto known = std::ranges::find(kLanguageRules, number, [](auto r) { return std::int64_t(r); });
-  return known != kLanguageRules.end() && Collator::Of(*known).Version() == edition;
+  return known != kLanguageRules.end() && edition == Collator::Edition();
 }
 
 }  // namespace
@@ -45,7 +45,7 @@ bool StoredRules::Has(LanguageRules rules) {
 
 void StoredRules::Add(LanguageRules rules) {
   database_.Prepare("INSERT OR REPLACE INTO user_rules(id,edition) VALUES(?,?)")
-      ->BindAll(static_cast<std::int64_t>(rules), Collator::Of(rules).Version())
+      ->BindAll(static_cast<std::int64_t>(rules), Collator::Edition())
       .Run();
 }
 
