@@ -16,12 +16,14 @@ double NowMs() {
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
+void StopAnimations() {
+  g_object_set(gtk_settings_get_default(), "gtk-enable-animations", FALSE, nullptr);
+}
+
 PaintClock::PaintClock(wxWindow& inside) {
   frameClock_ = gtk_widget_get_frame_clock(inside.GetHandle());
   if (!frameClock_) throw std::runtime_error("the window is not shown");
   g_object_ref(frameClock_);
-  // The desktop fades controls in and out over 200 ms; what counts is when the contents are there.
-  g_object_set(gtk_settings_get_default(), "gtk-enable-animations", FALSE, nullptr);
   handler_ = g_signal_connect(frameClock_, "after-paint", G_CALLBACK(&PaintClock::AfterPaint), this);
 }
 

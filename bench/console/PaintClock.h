@@ -9,6 +9,10 @@ namespace mindloft::bench {
 /// Milliseconds of the monotonic clock.
 double NowMs();
 
+/// The desktop fades controls in and out over 200 ms; what counts is when the contents are there. To be
+/// called before what is measured: it styles every control anew that is there already.
+void StopAnimations();
+
 /// Measures from an action to the last pixel that it paints: the toolkit's frame clock tells when a frame has
 /// been drawn and handed to the display.
 class PaintClock {

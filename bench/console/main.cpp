@@ -17,6 +17,7 @@
 
 #include "app/ConsoleApp.h"
 #include "backend/directory/SqliteDirectory.h"
+#include "bench/console/PaintClock.h"
 #include "bench/console/StartClock.h"
 #include "bench/console/Walk.h"
 
@@ -33,6 +34,7 @@ class WatchedConsole : public ConsoleApp {
     auto* window = dynamic_cast<wxTopLevelWindow*>(wxWindow::FindWindowByName("frmSysAdmin"));
     if (!window) throw std::runtime_error("the console did not log in");
     if (measuresWalk) {
+      StopAnimations();
       CallAfter([window] { WalkAndReport(*window); });
     } else {
       ReportWhenReady(*window);

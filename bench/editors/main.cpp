@@ -46,6 +46,7 @@ class EditorsBench : public wxApp {
       return false;
     }
     folder_ = argv[1].utf8_string();
+    StopAnimations();
     frame_ = new wxFrame(nullptr, wxID_ANY, "bench");
     frame_->Show();
     CallAfter([this] { Run(); });

@@ -47,6 +47,7 @@ class RichTextBench : public wxApp {
     ResetServices(std::move(overrides));
     if (argc > 1) pages_ = std::max(1, std::atoi(argv[1].utf8_str()));
     platform::MendToolkit();
+    StopAnimations();
     frame_ = new wxFrame(nullptr, wxID_ANY, "bench", wxDefaultPosition, wxSize(1000, 700));
     text_ = new TXControl(frame_);
     frame_->Show();
