@@ -1,10 +1,14 @@
 #include "app/AutoLogin.h"
 
+#include <future>
+#include <memory>
+
 #include "backend/tessaline/Services.h"
 #include "backend/tessaline/Text.h"
 #include "backend/tessaline/login/SecretText.h"
 #include "backend/tessaline/login/WebSettings.h"
 #include "core/ErrorHandling.h"
+#include "platform/Beside.h"
 
 namespace mindloft {
 namespace {
@@ -42,6 +46,24 @@ bool SetServer(Corvane::Connection& connection) {
   return true;
 }
 
+/// On another thread. The Connection is nobody else's until the result is there.
+std::future<bool> LoginBeside(Corvane::Connection& connection) {
+  const auto& resource = GetResource();
+  // Where it stays, so that no copy of the password outlives it.
+  const auto password = std::make_shared<std::string>(ToUtf8(resource.GetSetting(Setting::LoginPassword)));
+  return platform::Beside(
+      [&connection, userName = ToUtf8(resource.GetSetting(Setting::LoginUserName)), password] {
+        try {
+          const bool loggedIn = connection.Login(userName, *password);
+          WipeText(*password);
+          return loggedIn;
+        } catch (...) {
+          WipeText(*password);
+          throw;
+        }
+      });
+}
+
 }  // namespace
 
 bool IsAutoLoginEnabled() try {
@@ -51,23 +73,15 @@ bool IsAutoLoginEnabled() try {
   return false;
 }
 
-bool AutoLogin() try {
+bool AutoLogin(const std::function<void()>& meanwhile) try {
   const auto connection = GetConnection();
   auto& resource = GetResource();
   SetConnectMode(*connection);
   if (!SetServer(*connection)) return false;
 
-  const auto userName = ToUtf8(resource.GetSetting(Setting::LoginUserName));
-  auto password = ToUtf8(resource.GetSetting(Setting::LoginPassword));
-  bool loggedIn = false;
-  try {
-    loggedIn = connection->Login(userName, password);
-  } catch (...) {
-    WipeText(password);
-    throw;
-  }
-  WipeText(password);
-  if (!loggedIn) return false;
+  auto loggedIn = LoginBeside(*connection);
+  if (meanwhile) meanwhile();
+  if (!loggedIn.get()) return false;
   // The address as the user knows it: the secure scheme is for the login only.
   if (connection->ConnectMode() == kWeb) {
     connection->SetWebAddress(ToUtf8(resource.GetSetting(Setting::WebServerURL, true)));

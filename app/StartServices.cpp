@@ -3,13 +3,12 @@
 #include <wx/app.h>
 #include <wx/toplevel.h>
 
-#include "backend/tessaline/Services.h"
+#include "app/FirstWindow.h"
 #include "backend/tessaline/login/LoginDialog.h"
 #include "backend/tessaline/login/SettingsForm.h"
 #include "config/frmConfiguration.h"
 #include "editors/styles/RegisterStyleEditor.h"
 #include "editors/user/RegisterUserEditor.h"
-#include "mainwindow/CommandLineState.h"
 #include "mainwindow/frmSysAdmin.h"
 #include "platform/ui/Keyboard.h"
 
@@ -20,20 +19,19 @@ StartServices StartServices::Real(std::filesystem::path directoryFile,
   StartServices services;
   services.directories = Corvane::EmbeddedDirectoryProvider(std::move(open));
   services.isShiftDown = platform::IsShiftDown;
-  services.login = [directoryFile](const wxString& title) {
+  const auto first = std::make_shared<FirstWindow>();
+  services.prepareMainWindow = [first] { first->Prepare(); };
+  services.login = [directoryFile, first](const wxString& title) {
+    first->Drop();
     // Nobody is locked out by the name of a server that is not there.
     SetSettingsForm([](wxWindow* parent) { frmConfiguration(parent).ShowModal(); });
     Tessaline::LoginDialog dialog(directoryFile);
     return dialog.Login(title);
   };
-  services.showMainWindow = [] {
+  services.showMainWindow = [first] {
     RegisterUserEditor();
     RegisterStyleEditor();
-    const bool startWithNode = !GetStringHelper().IsBlank(SavedCommandLine());
-    // Destroys itself when it is closed.
-    auto* window = new frmSysAdmin(GetConnection(), startWithNode);
-    wxTheApp->SetTopWindow(window);
-    window->Show();
+    first->Show();
   };
   services.raiseLogin = [] {
     for (auto* window : wxTopLevelWindows) {

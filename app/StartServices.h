@@ -18,6 +18,9 @@ struct StartServices {
   std::function<bool(const wxString& title)> login;
   /// Brings an open login dialog to the front.
   std::function<void()> raiseLogin;
+  /// Makes what the main window needs nobody to be logged in for, while an automatic login is under way. May
+  /// be missing.
+  std::function<void()> prepareMainWindow;
   std::function<void()> showMainWindow;
   /// Lets the main window, if it is still open, take over the saved command line.
   std::function<void()> handOver;

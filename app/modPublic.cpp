@@ -41,7 +41,8 @@ void Main(const wxString& commandLine, const StartServices& services) try {
   SavedCommandLine() = commandLine;
   platform::InitExtendedComboBoxes();
   SetApplication(std::make_unique<Corvane::Application>(services.directories));
-  const bool loggedIn = (IsAutoLoginWanted(services) && AutoLogin()) || LoginInteractively(services);
+  const bool loggedIn =
+      (IsAutoLoginWanted(services) && AutoLogin(services.prepareMainWindow)) || LoginInteractively(services);
   if (!loggedIn) {
     GetUtility().Log("start: not logged in");
     Shutdown();

@@ -44,15 +44,20 @@ constexpr int kTimerInterval = 50;
 
 }  // namespace
 
-frmSysAdmin::frmSysAdmin(std::shared_ptr<Corvane::Connection> connection, bool startWithNode)
-    : connection_(std::move(connection)), timer1_(this) {
+frmSysAdmin::frmSysAdmin() : timer1_(this) {
   LoadFrameForm(*this, nullptr, "frmSysAdmin");
   SetIcons(WindowIcons());
+  area_ = std::make_unique<WorkingArea>(*this);
+}
+
+frmSysAdmin::~frmSysAdmin() = default;
+
+void frmSysAdmin::Load(std::shared_ptr<Corvane::Connection> connection, bool startWithNode) {
+  connection_ = std::move(connection);
   const auto server = GetApplication()->Server();
   kinds_ = std::make_unique<ObjectKindRegistry>();
   RegisterObjectKinds(*kinds_);
   domains_ = std::make_unique<DomainContexts>(server->KDomains());
-  area_ = std::make_unique<WorkingArea>(*this);
   tree_ = std::make_unique<DirectoryTree>(*area_, *domains_);
   lists_ = std::make_unique<DirectoryLists>(*area_, *kinds_, *tree_, server);
   selection_ = std::make_unique<SelectionReader>(*area_, *kinds_, *tree_, *domains_, *lists_);
@@ -67,8 +72,6 @@ frmSysAdmin::frmSysAdmin(std::shared_ptr<Corvane::Connection> connection, bool s
   refreshHandlers_ = std::make_unique<RefreshHandlers>(*this, *domains_);
   Form_Load(startWithNode);
 }
-
-frmSysAdmin::~frmSysAdmin() = default;
 
 void frmSysAdmin::Form_Load(bool startWithNode) try {
   platform::Hook2(this);

@@ -38,9 +38,12 @@ class Server;
 /// bar, each of which is a class of its own. Closing it logs out.
 class frmSysAdmin : public wxFrame {
  public:
-  /// Builds the window for a logged-in connection. `startWithNode`: the saved command line is not blank.
-  explicit frmSysAdmin(std::shared_ptr<Corvane::Connection> connection, bool startWithNode);
+  /// Only the working area, for which nobody has to be logged in. Load comes next; nothing else before it but
+  /// the destructor.
+  frmSysAdmin();
   ~frmSysAdmin() override;
+  /// Builds the window for a logged-in connection. `startWithNode`: the saved command line is not blank.
+  void Load(std::shared_ptr<Corvane::Connection> connection, bool startWithNode);
 
   /// Takes over the saved command line of a second instance: selects the node of that text on the next timer
   /// tick and brings the window to the front.

@@ -44,7 +44,8 @@ void SelectUsers(ctExplorer& explorer, wxWindow& list, std::int64_t first) {
 }  // namespace
 
 void MeasureDeletion(int runs, Figures& figures) {
-  auto* form = new frmSysAdmin(GetConnection(), false);
+  auto* form = new frmSysAdmin;
+  form->Load(GetConnection(), false);
   form->Show();
   auto& explorer = form->Explorer();
   explorer.SelectTreeNode(explorer.FindTreeNode(keys::kUsers));

@@ -1,3 +1,5 @@
+#include <chrono>
+#include <future>
 #include <map>
 
 #include "app/AutoLogin.h"
@@ -110,6 +112,18 @@ TEST_F(AutoLoginTest, WhereNoServerIsNamedNothingIsTried) {
     EXPECT_FALSE(LogIn(WebWith({{Setting::WebServerURL, blank}})));
     EXPECT_TRUE(targets_.empty());
   }
+}
+
+TEST_F(AutoLoginTest, TheCallerGoesOnWhileTheDirectoryIsReached) {
+  std::promise<void> goingOn;
+  auto met = std::future_status::deferred;
+  SetApplication(std::make_unique<Corvane::Application>([&](const Corvane::ConnectionTarget& target) {
+    met = goingOn.get_future().wait_for(std::chrono::seconds(10));
+    return TracingServices().directories(target);
+  }));
+  SetAutoLogin("1");
+  EXPECT_TRUE(AutoLogin([&] { goingOn.set_value(); }));
+  EXPECT_EQ(met, std::future_status::ready);
 }
 
 TEST_F(AutoLoginTest, AFailureIsSilentAndAnErrorIsReportedWithItsPlace) {

@@ -18,6 +18,7 @@ TEST_F(SettingsAtLoginTest, NobodyIsLockedOutByAWrongServerWithAutomaticLoginOn)
   services.showMainWindow = [this] { trace_.push_back("window"); };
   ModalDriver modal;
   modal.ExpectForm("frmLogin", [&](User& user) {
+    EXPECT_FALSE(wxWindow::FindWindowByName("frmSysAdmin")) << "prepared in vain";
     modal.ExpectForm("frmConfiguration", [](User& settings) {
       EXPECT_EQ(settings.Read("txtConfigurationServer"), "wrong-server");
       settings.Clear("txtConfigurationServer");

@@ -62,7 +62,8 @@ void MainWindowTest::MakeDirectory() {
 
 void MainWindowTest::Open(const std::string& user, bool startWithNode) {
   ASSERT_TRUE(GetConnection()->Login(user, kPassword));
-  form_ = new frmSysAdmin(GetConnection(), startWithNode);
+  form_ = new frmSysAdmin;
+  form_->Load(GetConnection(), startWithNode);
   form_->Show();
   Settle();
 }
