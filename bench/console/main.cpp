@@ -6,6 +6,7 @@
 // Each folder holds a directory (sample.directory) and settings that log in to it automatically (config).
 // Each measurement is a process of its own: console-bench --measure start|walk --directory FILE.
 
+#include <unistd.h>
 #include <wx/app.h>
 #include <wx/toplevel.h>
 
@@ -81,6 +82,8 @@ int Drive(const std::string& self, const std::string& small, const std::string& 
   // The first program of the toolkit on a display looks for its ways to draw, which loads the graphics
   // driver, and leaves what it found with the display.
   RunMeasured({bare});
+  // What made the directories may still be on its way to the disk, for which each login's record waits.
+  sync();
   // Turn by turn, so that a disturbance of the machine meets all three.
   for (int i = 0; i < kStarts; ++i) {
     bareTimes.push_back(RunMeasured({bare}).Get("ready"));
