@@ -49,18 +49,10 @@ bool SetServer(Corvane::Connection& connection) {
 /// On another thread. The Connection is nobody else's until the result is there.
 std::future<bool> LoginBeside(Corvane::Connection& connection) {
   const auto& resource = GetResource();
-  // Where it stays, so that no copy of the password outlives it.
-  const auto password = std::make_shared<std::string>(ToUtf8(resource.GetSetting(Setting::LoginPassword)));
   return platform::Beside(
-      [&connection, userName = ToUtf8(resource.GetSetting(Setting::LoginUserName)), password] {
-        try {
-          const bool loggedIn = connection.Login(userName, *password);
-          WipeText(*password);
-          return loggedIn;
-        } catch (...) {
-          WipeText(*password);
-          throw;
-        }
+      [&connection, userName = ToUtf8(resource.GetSetting(Setting::LoginUserName)),
+       password = std::make_shared<SecretText>(resource.GetSetting(Setting::LoginPassword))] {
+        return connection.Login(userName, password->Utf8());
       });
 }
 

@@ -15,6 +15,7 @@ namespace mindloft {
 FirstWindow::FirstWindow() = default;
 
 FirstWindow::~FirstWindow() {
+  // At the program's end the orders go before the thread that loads one.
   if (order_.valid()) order_.wait();
 }
 

@@ -11,8 +11,8 @@ namespace {
 
 /// Whether this program orders as the one did that stored this.
 bool IsCurrent(std::int64_t number, std::string_view edition) {
-  const auto known = std::ranges::find(kLanguageRules, number, [](auto r) { return std::int64_t(r); });
-  return known != kLanguageRules.end() && edition == Collator::Edition();
+  return edition == Collator::Edition() &&
+         std::ranges::any_of(kLanguageRules, [number](auto rules) { return std::int64_t(rules) == number; });
 }
 
 }  // namespace
