@@ -1,9 +1,5 @@
 #include "tests/platform/Child.h"
 
-#include <wx/process.h>
-#include <wx/stdpaths.h>
-#include <wx/utils.h>
-
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -77,43 +73,22 @@ int KeepSecret(const Arguments&) {
 
 }  // namespace
 
-class Child::Process : public wxProcess {
- public:
-  void OnTerminate(int, int status) override { status_ = status; }
-  std::optional<int> status_;
-};
+Child::Child(const std::vector<std::string>& arguments)
+    : process_(ProgramBeside("platform_tests"), [&] {
+        auto all = arguments;
+        all.insert(all.begin(), "--child");
+        return all;
+      }()) {}
 
-Child::Child(const std::vector<std::string>& arguments) : process_(new Process) {
-  std::vector<std::wstring> words{wxStandardPaths::Get().GetExecutablePath().ToStdWstring(), L"--child"};
-  for (const auto& argument : arguments) words.push_back(wxString(argument).ToStdWstring());
-  std::vector<const wchar_t*> pointers;
-  for (const auto& word : words) pointers.push_back(word.c_str());
-  pointers.push_back(nullptr);
-  id_ = wxExecute(const_cast<wchar_t**>(pointers.data()), wxEXEC_ASYNC, process_);
-  if (id_ <= 0) throw std::runtime_error("the child process did not start");
-}
-
-Child::~Child() {
-  if (!HasEnded()) {
-    wxKill(static_cast<int>(id_), wxSIGKILL);
-    WaitFor([this] { return HasEnded(); }, "the end of a child process");
-  }
-  delete process_;
-}
-
-bool Child::HasEnded() const {
-  return process_->status_.has_value();
-}
-
-int Child::Wait() const {
+int Child::Wait() {
   // Many replacements of a file take their time on a slow disk.
-  for (int patience = 6; patience > 0 && !HasEnded(); --patience) {
+  for (int patience = 6; patience > 0 && !process_.HasEnded(); --patience) {
     try {
-      WaitFor([this] { return HasEnded(); }, "a child process");
+      WaitFor([this] { return process_.HasEnded(); }, "a child process");
     } catch (const std::runtime_error&) {
     }
   }
-  return process_->status_.value_or(-1);
+  return process_.HasEnded() ? process_.Wait() : -1;
 }
 
 std::optional<int> RunAsChild(int argc, char** argv) {

@@ -14,11 +14,6 @@ class PlatformTestApp : public wxApp {
   bool OnInit() override {
     SetExitOnFrameDelete(false);
     FailOnToolkitMessages();
-    wxSetAssertHandler([](const wxString& file, int line, const wxString&, const wxString& condition,
-                          const wxString& message) {
-      ADD_FAILURE_AT(file.utf8_str(), line)
-          << "assertion of the toolkit: " << condition.utf8_str() << " " << message.utf8_str();
-    });
     return true;
   }
   int OnRun() override {

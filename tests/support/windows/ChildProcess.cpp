@@ -7,8 +7,22 @@
 namespace mindloft::test {
 
 namespace {
+
 constexpr UINT kKilled = 0xdead;
+
+/// Starts the program of the command line. Wine loses one of some hundred new processes on its way, and says
+/// that an error has occurred inside of it.
+bool StartProcess(std::wstring command, STARTUPINFOW& startup, PROCESS_INFORMATION& process) {
+  for (int tries = 3; tries > 0; --tries) {
+    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr, nullptr,
+                       &startup, &process))
+      return true;
+    if (GetLastError() != ERROR_INTERNAL_ERROR) break;
+  }
+  return false;
 }
+
+}  // namespace
 
 struct ChildProcess::Handles {
   HANDLE process = nullptr;
@@ -33,8 +47,7 @@ ChildProcess::ChildProcess(const std::filesystem::path& program, const std::vect
   startup.hStdOutput = write;
   startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
   PROCESS_INFORMATION process{};
-  BOOL started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
-                                nullptr, &startup, &process);
+  const bool started = StartProcess(command, startup, process);
   CloseHandle(write);
   if (!started) throw std::runtime_error("CreateProcess");
   CloseHandle(process.hThread);

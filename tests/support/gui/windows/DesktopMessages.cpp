@@ -3,6 +3,6 @@
 namespace mindloft::test {
 
 // The common controls tell nothing.
-void FailOnToolkitMessages() {}
+void FailOnDesktopMessages() {}
 
 }  // namespace mindloft::test

@@ -1,10 +1,10 @@
-#include "tests/support/gui/ToolkitMessages.h"
-
 #include <glib.h>
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
+
+#include "tests/support/gui/ToolkitMessages.h"
 
 namespace mindloft::test {
 namespace {
@@ -48,7 +48,7 @@ GLogWriterOutput Write(GLogLevelFlags level, const GLogField* fields, gsize coun
 
 }  // namespace
 
-void FailOnToolkitMessages() {
+void FailOnDesktopMessages() {
   // All ways of logging end in this function.
   g_log_set_writer_func(Write, nullptr, nullptr);
 }
