@@ -2,7 +2,8 @@
 
 namespace mindloft::platform {
 
-/// Makes libgcrypt ready for use; cheap after the first time. Throws Unexpected when the library is too old.
+/// Makes libsodium ready for use, on any thread; cheap after the first time. Throws Unexpected where the
+/// system has no source of random numbers.
 void PrepareCryptoLibrary();
 
 }  // namespace mindloft::platform

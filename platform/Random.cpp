@@ -1,6 +1,6 @@
 #include "platform/Random.h"
 
-#include <gcrypt.h>
+#include <sodium.h>
 
 #include "platform/CryptoLibrary.h"
 
@@ -9,7 +9,7 @@ namespace mindloft::platform {
 std::string RandomBytes(std::size_t count) {
   PrepareCryptoLibrary();
   std::string bytes(count, '\0');
-  gcry_randomize(bytes.data(), bytes.size(), GCRY_STRONG_RANDOM);
+  randombytes_buf(bytes.data(), bytes.size());
   return bytes;
 }
 

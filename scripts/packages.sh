@@ -3,15 +3,15 @@
 set -euo pipefail
 
 build="cmake ninja-build g++ pkg-config ccache libwxgtk3.2-dev libgtk-3-dev libfontconfig-dev libsqlite3-dev libutf8proc-dev libpugixml-dev
-  libgcrypt20-dev libicu-dev libcups2-dev libsecret-1-dev libspdlog-dev libfmt-dev googletest libgtest-dev libgmock-dev"
+  libsodium-dev libicu-dev libcups2-dev libsecret-1-dev libspdlog-dev libfmt-dev googletest libgtest-dev libgmock-dev"
 # Fonts for the languages and the sample's names; a display, a window manager and a camera for machines without one.
 screen="xvfb openbox x11-utils xdotool imagemagick fonts-dejavu-core fonts-droid-fallback fonts-nanum fonts-noto-core"
 # The keyring is for the tests of stored passwords; the print server has a printer that writes files. The directory file
 # is asked by the database's own shell.
 test="$build $screen sqlite3 procps dbus-daemon gnome-keyring cups cups-client printer-driver-cups-pdf poppler-utils"
 run="$build $screen"
-windows="$test g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libgcrypt-mingw-w64-dev wine wine64 fonts-wqy-microhei tcl
-  icu-devtools dpkg-dev
+windows="$test g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64 fonts-wqy-microhei tcl
+  icu-devtools dpkg-dev autoconf automake libtool
   debian-archive-keyring ca-certificates wixl"
 lint="$build clang-format clang-tidy-16 git"
 # The oldest clang that reads the sources.

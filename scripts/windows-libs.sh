@@ -57,6 +57,13 @@ $host-gcc-posix -O2 -DUTF8PROC_STATIC -c "$work/utf8proc/utf8proc.c" -o "$work/u
 $host-ar rcs "$prefix/lib/libutf8proc.a" "$work/utf8proc.o"
 cp "$work/utf8proc/utf8proc.h" "$prefix/include/"
 
+fetch libsodium bookworm
+# The stack protector and the checked functions of the C library would need libraries of the compiler's own.
+(cd "$work/libsodium" && autoreconf -fi 2>/dev/null
+  ./configure --quiet --host=$host CC=$host-gcc-posix CFLAGS=-O3 CPPFLAGS=-D_FORTIFY_SOURCE=0 --prefix="$prefix" \
+    --disable-shared --disable-ssp --disable-dependency-tracking >/dev/null
+  make -s -j "$jobs" -C src/libsodium install >/dev/null)
+
 # Header-only use: the native packages' headers serve both sides.
 cp -r /usr/include/spdlog /usr/include/fmt "$prefix/include/"
 
