@@ -16,6 +16,7 @@
 #include "core/LanguageImport.h"
 #include "core/forms/Form.h"
 #include "mainwindow/ApplicationServices.h"
+#include "platform/Heap.h"
 #include "platform/Paths.h"
 #include "platform/Terminal.h"
 #include "platform/ui/Fonts.h"
@@ -61,6 +62,7 @@ bool ConsoleApp::Initialize(int& argc, wxChar** argv) try {
   }
   if (!options_.directoryIsMissing) {
     if (options_.directoryFile.empty()) options_.directoryFile = platform::DefaultDirectoryFile();
+    platform::GrowHeapInLargeSteps();
     // Both are wanted next, the fonts a moment earlier.
     platform::BeginLoadingFonts();
     early_ = std::make_unique<EarlyLogin>(options_.directoryFile);

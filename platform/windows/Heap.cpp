@@ -1,0 +1,7 @@
+#include "platform/Heap.h"
+
+namespace mindloft::platform {
+
+void GrowHeapInLargeSteps() {}
+
+}  // namespace mindloft::platform
