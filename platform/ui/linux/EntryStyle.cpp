@@ -3,12 +3,30 @@
 #include <wx/colour.h>
 
 namespace mindloft::platform {
+namespace {
+
+using StyleProvider = std::unique_ptr<GtkStyleProvider, UnrefObject>;
+
+StyleProvider ProviderOf(const std::string& rule) {
+  GtkCssProvider* provider = gtk_css_provider_new();
+  gtk_css_provider_load_from_data(provider, rule.c_str(), -1, nullptr);
+  return StyleProvider(GTK_STYLE_PROVIDER(provider));
+}
+
+}  // namespace
 
 void AddRule(GtkStyleContext* style, const std::string& rule) {
-  const std::unique_ptr<GtkCssProvider, UnrefObject> provider(gtk_css_provider_new());
-  gtk_css_provider_load_from_data(provider.get(), rule.c_str(), -1, nullptr);
-  gtk_style_context_add_provider(style, GTK_STYLE_PROVIDER(provider.get()),
-                                 GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+  gtk_style_context_add_provider(style, ProviderOf(rule).get(), GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+}
+
+void PreferBullets() {
+  static bool preferred = false;
+  if (preferred) return;
+  preferred = true;
+  // U+2022; below the theme, which may have a choice of its own.
+  gtk_style_context_add_provider_for_screen(gdk_screen_get_default(),
+                                            ProviderOf("entry { -GtkEntry-invisible-char: 8226; }").get(),
+                                            GTK_STYLE_PROVIDER_PRIORITY_FALLBACK);
 }
 
 StyleContext EntryStyle(GtkWidget* widget, const wxColour& background) {

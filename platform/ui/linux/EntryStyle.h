@@ -20,4 +20,9 @@ StyleContext EntryStyle(GtkWidget* widget, const wxColour& background);
 /// Adds a rule of the style language that overrides the theme's.
 void AddRule(GtkStyleContext* style, const std::string& rule);
 
+/// Lets boxes for passwords show bullets, unless the desktop's theme says otherwise. Each new box for a line
+/// of text looks for a character to hide texts with that its font has; the toolkit's first choice is missing
+/// in many a font, which makes it load another one to draw that with. Calling it again changes nothing.
+void PreferBullets();
+
 }  // namespace mindloft::platform
