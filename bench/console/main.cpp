@@ -28,7 +28,7 @@ namespace {
 bool measuresWalk = false;
 /// So many that the medians do not hang on a few slow starts: on two processors those of a program with two
 /// threads differ by ten milliseconds and more, those of a bare frame hardly.
-constexpr int kStarts = 31;
+constexpr int kStarts = 61;
 
 /// The console as it is, watched.
 class WatchedConsole : public ConsoleApp {
