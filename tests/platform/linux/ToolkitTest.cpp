@@ -5,15 +5,13 @@
 #include <memory>
 
 #include "platform/ui/Toolkit.h"
+#include "platform/ui/linux/EntryStyle.h"
 
 namespace mindloft::test {
 namespace {
 
-struct UnrefObject {
-  void operator()(gpointer object) const { g_object_unref(object); }
-};
 template <typename Object>
-using Owned = std::unique_ptr<Object, UnrefObject>;
+using Owned = std::unique_ptr<Object, platform::UnrefObject>;
 
 Owned<PangoFont> FontOf(PangoContext* context) {
   PangoFontDescription* description = pango_font_description_from_string("Sans 10");
